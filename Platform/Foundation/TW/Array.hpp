@@ -1,0 +1,21 @@
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+
+#include <boost/container/small_vector.hpp>
+
+namespace TW {
+
+/// How many elements an `Array` holds without the heap: as many as fit into one cache line, at least one.
+template <class T>
+inline constexpr std::size_t ArrayInlineCount = std::max<std::size_t>(1, 64 / sizeof(T));
+
+/// A growable array whose first elements live in place, so that the operands of a usual call need no heap.
+template <class T>
+class Array : public boost::container::small_vector<T, ArrayInlineCount<T>> {
+ public:
+  using boost::container::small_vector<T, ArrayInlineCount<T>>::small_vector;
+};
+
+}  // namespace TW

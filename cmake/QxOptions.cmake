@@ -1,0 +1,21 @@
+# Compiler settings shared by every target of the project: link qx_options to get them.
+
+option(QX_WERROR "Treat warnings as errors" OFF)
+set(QX_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined or thread")
+
+add_library(qx_options INTERFACE)
+target_compile_features(qx_options INTERFACE cxx_std_20)
+target_compile_options(qx_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -ffp-contract=off)
+if(QX_WERROR)
+  target_compile_options(qx_options INTERFACE -Werror)
+endif()
+
+if(QX_SANITIZE)
+  target_compile_options(qx_options INTERFACE -fsanitize=${QX_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  target_link_options(qx_options INTERFACE -fsanitize=${QX_SANITIZE})
+endif()
+
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
