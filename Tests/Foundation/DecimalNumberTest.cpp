@@ -1,11 +1,10 @@
 #include "TW/DecimalNumber.hpp"
-
-#include <cmath>
-#include <limits>
+#include "Text.hpp"
 
 #include <gtest/gtest.h>
 
-#include "Text.hpp"
+#include <cmath>
+#include <limits>
 
 namespace {
 
@@ -21,8 +20,7 @@ struct RoundingRow {
 TW::UniString Rounded(double value, unsigned int decimals) {
   DecimalNumber number(value);
   number.RoundToDecimals(decimals);
-  return (number.IsNegative() ? TW::UniString(u"-") : TW::UniString()) +
-         number.GetUnsignedText(decimals, u".", u",");
+  return (number.IsNegative() ? TW::UniString(u"-") : TW::UniString()) + number.GetUnsignedText(decimals, u".", u",");
 }
 
 TEST(DecimalNumber, RoundsWhatAPersonWouldWriteHalvesAwayFromZero) {

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <boost/container/small_vector.hpp>
+
 #include <algorithm>
 #include <cstddef>
-
-#include <boost/container/small_vector.hpp>
 
 namespace TW {
 

@@ -5,6 +5,7 @@
 #include <bit>
 #include <limits>
 #include <type_traits>
+#include <utility>
 
 namespace TW {
 namespace {
@@ -60,13 +61,27 @@ ErrCode OChannel::WriteBytes(const void* bytes, std::size_t count) {
   return NoErr;
 }
 
-ErrCode OChannel::WriteBool(bool value) { return WriteNumber(*this, static_cast<std::uint8_t>(value ? 1 : 0)); }
-ErrCode OChannel::WriteUInt16(std::uint16_t value) { return WriteNumber(*this, value); }
-ErrCode OChannel::WriteInt32(std::int32_t value) { return WriteNumber(*this, static_cast<std::uint32_t>(value)); }
-ErrCode OChannel::WriteUInt32(std::uint32_t value) { return WriteNumber(*this, value); }
-ErrCode OChannel::WriteUInt64(std::uint64_t value) { return WriteNumber(*this, value); }
-ErrCode OChannel::WriteDouble(double value) { return WriteNumber(*this, std::bit_cast<std::uint64_t>(value)); }
-ErrCode OChannel::WriteGuid(const Guid& guid) { return WriteBytes(guid.GetBytes().data(), guid.GetBytes().size()); }
+ErrCode OChannel::WriteBool(bool value) {
+  return WriteNumber(*this, static_cast<std::uint8_t>(value ? 1 : 0));
+}
+ErrCode OChannel::WriteUInt16(std::uint16_t value) {
+  return WriteNumber(*this, value);
+}
+ErrCode OChannel::WriteInt32(std::int32_t value) {
+  return WriteNumber(*this, static_cast<std::uint32_t>(value));
+}
+ErrCode OChannel::WriteUInt32(std::uint32_t value) {
+  return WriteNumber(*this, value);
+}
+ErrCode OChannel::WriteUInt64(std::uint64_t value) {
+  return WriteNumber(*this, value);
+}
+ErrCode OChannel::WriteDouble(double value) {
+  return WriteNumber(*this, std::bit_cast<std::uint64_t>(value));
+}
+ErrCode OChannel::WriteGuid(const Guid& guid) {
+  return WriteBytes(guid.GetBytes().data(), guid.GetBytes().size());
+}
 
 ErrCode OChannel::WriteString(const UniString& text) {
   WriteUInt32(text.GetLength());
@@ -84,10 +99,15 @@ ErrCode OChannel::WriteString(const UniString& text) {
   return status_;
 }
 
-std::size_t OChannel::OpenFrame() {
+std::size_t OChannel::OpenFrame(const Guid& classGuid, std::uint16_t version) {
+  constexpr std::size_t HeadSize = sizeof(Guid::Bytes) + sizeof(std::uint16_t) + sizeof(std::uint32_t);
+  framed_.reserve(framed_.size() + HeadSize);
   ++openFrames_;
+  WriteGuid(classGuid);
+  WriteUInt16(version);
+  const std::size_t lengthPosition = framed_.size();
   WriteUInt32(0);
-  return framed_.size() - std::min<std::size_t>(framed_.size(), sizeof(std::uint32_t));
+  return lengthPosition;
 }
 
 ErrCode OChannel::CloseFrame(std::size_t lengthPosition) {
@@ -103,8 +123,8 @@ ErrCode OChannel::CloseFrame(std::size_t lengthPosition) {
     }
   }
   if (openFrames_ == 0) {
-    if (status_ == NoErr) SetStatus(WriteRaw(framed_.data(), framed_.size()));
-    framed_.clear();
+    const std::vector<std::byte> whole = std::exchange(framed_, {});
+    if (status_ == NoErr) SetStatus(WriteRaw(whole.data(), whole.size()));
   }
   return status_;
 }
@@ -152,9 +172,15 @@ ErrCode IChannel::ReadDouble(double& value) {
   return error;
 }
 
-ErrCode IChannel::ReadUInt16(std::uint16_t& value) { return ReadNumber(*this, value); }
-ErrCode IChannel::ReadUInt32(std::uint32_t& value) { return ReadNumber(*this, value); }
-ErrCode IChannel::ReadUInt64(std::uint64_t& value) { return ReadNumber(*this, value); }
+ErrCode IChannel::ReadUInt16(std::uint16_t& value) {
+  return ReadNumber(*this, value);
+}
+ErrCode IChannel::ReadUInt32(std::uint32_t& value) {
+  return ReadNumber(*this, value);
+}
+ErrCode IChannel::ReadUInt64(std::uint64_t& value) {
+  return ReadNumber(*this, value);
+}
 
 ErrCode IChannel::ReadGuid(Guid& guid) {
   Guid::Bytes bytes;

@@ -1,19 +1,19 @@
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
-#include <vector>
-
 #include "TW/ErrorCodes.hpp"
 #include "TW/Export.hpp"
 #include "TW/Guid.hpp"
 #include "TW/UniString.hpp"
 
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
 /// Binary streams. Numbers are stored in little-endian order, a bool as one byte, a text as the count of its units
 /// (32 bits) and the units, a GUID as its 16 bytes.
 ///
-/// The first failure sticks: every later operation on the channel does nothing and gives the same code. A channel belongs to
-/// one thread at a time.
+/// The first failure sticks: every later operation on the channel does nothing and gives the same code. A channel
+/// belongs to one thread at a time.
 
 namespace TW {
 
@@ -46,7 +46,8 @@ class TW_EXPORT OChannel {
  private:
   friend class OutputFrame;
 
-  std::size_t OpenFrame();
+  /// Writes the head of a frame and gives the place of its length.
+  std::size_t OpenFrame(const Guid& classGuid, std::uint16_t version);
   ErrCode CloseFrame(std::size_t lengthPosition);
 
   ErrCode status_ = NoErr;
@@ -54,8 +55,8 @@ class TW_EXPORT OChannel {
   std::vector<std::byte> framed_;  ///< what was written since the outermost frame was opened
 };
 
-/// Where bytes are read from. A derived class says where they come from. Nothing that a stream merely claims (the length
-/// of a text or of a frame) decides how much memory is taken: that grows only with what was really read.
+/// Where bytes are read from. A derived class says where they come from. Nothing that a stream merely claims (the
+/// length of a text or of a frame) decides how much memory is taken: that grows only with what was really read.
 class TW_EXPORT IChannel {
  public:
   IChannel() = default;

@@ -1,15 +1,15 @@
 #pragma once
 
-#include <string>
-#include <string_view>
-
 #include "TW/Export.hpp"
 #include "TW/UniString.hpp"
 
+#include <string>
+#include <string_view>
+
 namespace TW {
 
-/// A number in decimal digits: the shortest that read back as the double it was made from, so that rounding works on what
-/// a person would write (1.005 rounds to 1.01, though the double lies below it).
+/// A number in decimal digits: the shortest that read back as the double it was made from, so that rounding works on
+/// what a person would write (1.005 rounds to 1.01, though the double lies below it).
 class TW_EXPORT DecimalNumber {
  public:
   /// More decimals than this are taken as this many: no finite double has more.
@@ -46,8 +46,8 @@ enum class NumberReading {
   TooLarge,  ///< beyond the largest finite double
 };
 
-/// Reads digits with at most one full stop among them (`5`, `5.`, `.5`) and an optional exponent, all in ASCII, without sign
-/// or blanks. What is too small for a double is 0. Writes `value` only when the number was read.
+/// Reads digits with at most one full stop among them (`5`, `5.`, `.5`) and an optional exponent, all in ASCII, without
+/// sign or blanks. What is too small for a double is 0. Writes `value` only when the number was read.
 TW_EXPORT NumberReading ReadDecimalNumber(std::string_view text, double& value);
 
 }  // namespace TW

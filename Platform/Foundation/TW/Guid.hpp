@@ -1,5 +1,9 @@
 #pragma once
 
+#include "TW/ErrorCodes.hpp"
+#include "TW/Export.hpp"
+#include "TW/UniString.hpp"
+
 #include <array>
 #include <compare>
 #include <cstddef>
@@ -7,10 +11,6 @@
 #include <cstring>
 #include <functional>
 #include <string_view>
-
-#include "TW/ErrorCodes.hpp"
-#include "TW/Export.hpp"
-#include "TW/UniString.hpp"
 
 namespace TW {
 
@@ -26,8 +26,8 @@ class TW_EXPORT Guid {
   explicit Guid(std::string_view text) noexcept;
 
   /// Reads 32 hexadecimal digits of either case in groups of 8-4-4-4-12, with or without braces around them.
-  /// Gives `ErrGuidEmpty` for an empty text and makes this the null GUID; gives `ErrGuidFormat` for any other text that is
-  /// no GUID and leaves this unchanged.
+  /// Gives `ErrGuidEmpty` for an empty text and makes this the null GUID; gives `ErrGuidFormat` for any other text that
+  /// is no GUID and leaves this unchanged.
   ErrCode ConvertFromString(const UniString& text) noexcept;
   /// 36 characters in upper case, without braces.
   UniString ToUniString() const;

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <compare>
-
 #include "TW/Export.hpp"
+
+#include <compare>
 
 namespace TW {
 

@@ -1,13 +1,14 @@
 #include "TW/UniString.hpp"
 
+#include "TW/TextSearch.hpp"
+
+#include <unicode/uchar.h>
+#include <unicode/unorm2.h>
+#include <unicode/ustring.h>
+
 #include <charconv>
 #include <limits>
 #include <new>
-
-#include <unicode/uchar.h>
-#include <unicode/ustring.h>
-
-#include "TW/TextSearch.hpp"
 
 namespace TW {
 namespace {
@@ -36,21 +37,29 @@ std::int32_t ConvertibleLength(std::size_t length) {
   return static_cast<std::int32_t>(length);
 }
 
+// Calls `fill` with room for `expected` units and, should that be too little, once more with as much as it asks for.
+template <class Fill>
+std::u16string FillBuffer(std::size_t expected, Fill&& fill) {
+  std::u16string buffer(expected, u'\0');
+  UErrorCode status = U_ZERO_ERROR;
+  std::int32_t needed = fill(buffer.data(), static_cast<std::int32_t>(buffer.size()), &status);
+  if (status == U_BUFFER_OVERFLOW_ERROR) {
+    status = U_ZERO_ERROR;
+    buffer.resize(static_cast<std::size_t>(needed));
+    needed = fill(buffer.data(), needed, &status);
+  }
+  if (U_FAILURE(status)) throw std::bad_alloc();
+  buffer.resize(static_cast<std::size_t>(needed));
+  return buffer;
+}
+
 using CaseMapping = std::int32_t (*)(UChar*, std::int32_t, const UChar*, std::int32_t, const char*, UErrorCode*);
 
 std::u16string MapCase(std::u16string_view text, CaseMapping map) {
   const std::int32_t length = ConvertibleLength(text.size());
-  std::u16string mapped(text.size(), u'\0');
-  UErrorCode status = U_ZERO_ERROR;
-  std::int32_t needed = map(mapped.data(), length, text.data(), length, "", &status);
-  if (status == U_BUFFER_OVERFLOW_ERROR) {
-    status = U_ZERO_ERROR;
-    mapped.resize(static_cast<std::size_t>(needed));
-    needed = map(mapped.data(), needed, text.data(), length, "", &status);
-  }
-  if (U_FAILURE(status)) throw std::bad_alloc();
-  mapped.resize(static_cast<std::size_t>(needed));
-  return mapped;
+  return FillBuffer(text.size(), [&](UChar* buffer, std::int32_t capacity, UErrorCode* error) {
+    return map(buffer, capacity, text.data(), length, "", error);
+  });
 }
 
 }  // namespace
@@ -150,6 +159,17 @@ UniString UniString::ToLowerCase() const {
     if (unit >= u'A' && unit <= u'Z') unit = static_cast<char16_t>(unit - u'A' + u'a');
   }
   return lower;
+}
+
+UniString UniString::ToNormalizationFormC() const {
+  if (IsAscii(GetView())) return *this;
+  UErrorCode status = U_ZERO_ERROR;
+  const UNormalizer2* normalizer = unorm2_getNFCInstance(&status);
+  if (U_FAILURE(status)) throw std::bad_alloc();
+  const std::int32_t length = ConvertibleLength(units_.size());
+  return UniString(FillBuffer(units_.size(), [&](UChar* buffer, std::int32_t capacity, UErrorCode* error) {
+    return unorm2_normalize(normalizer, units_.data(), length, buffer, capacity, error);
+  }));
 }
 
 UniString UniString::Trim() const {

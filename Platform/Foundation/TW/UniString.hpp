@@ -1,16 +1,16 @@
 #pragma once
 
+#include "TW/Array.hpp"
+#include "TW/Export.hpp"
+#include "TW/Optional.hpp"
+#include "TW/UniChar.hpp"
+
 #include <compare>
 #include <cstddef>
 #include <functional>
 #include <initializer_list>
 #include <string>
 #include <string_view>
-
-#include "TW/Array.hpp"
-#include "TW/Export.hpp"
-#include "TW/Optional.hpp"
-#include "TW/UniChar.hpp"
 
 namespace TW {
 
@@ -21,10 +21,11 @@ enum class CaseComparison {
 };
 
 /// A text of 16-bit code units (UTF-16). Positions and lengths count units; a text is not required to be well formed,
-/// so that cutting a surrogate pair in two is harmless. Texts of up to seven units need no heap. A text holds fewer than
-/// 2^32 units; an operation that would exceed that throws `std::bad_alloc`.
+/// so that cutting a surrogate pair in two is harmless. Texts of up to seven units need no heap. A text holds fewer
+/// than 2^32 units; an operation that would exceed that throws `std::bad_alloc`.
 ///
-/// Searches report occurrences from left to right that do not overlap and take time linear in the lengths of both texts.
+/// Searches report occurrences from left to right that do not overlap and take time linear in the lengths of both
+/// texts.
 class TW_EXPORT UniString {
  public:
   UniString() noexcept = default;
@@ -81,6 +82,8 @@ class TW_EXPORT UniString {
   UniString ToUpperCase() const;
   /// The whole text in lower case by Unicode's full mapping, whatever the locale.
   UniString ToLowerCase() const;
+  /// The text in Unicode's normalization form C, in which a letter and its accent are one character where there is one.
+  UniString ToNormalizationFormC() const;
   /// The text without the white space at both ends.
   UniString Trim() const;
 

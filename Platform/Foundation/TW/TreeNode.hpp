@@ -1,0 +1,63 @@
+#pragma once
+
+#include "TW/ChildList.hpp"
+#include "TW/ClassInfo.hpp"
+#include "TW/Export.hpp"
+#include "TW/Object.hpp"
+#include "TW/Ref.hpp"
+
+namespace TW {
+
+/// A node of a tree that owns its children, in order. Trees of any depth are stored, read and destroyed without
+/// recursion.
+///
+/// A stored tree is the sequence of its nodes, each before its children: the GUID of the node's class, what `WriteSelf`
+/// writes, and the count of the children (32 bits).
+class TW_EXPORT TreeNode : public Object {
+ public:
+  static ClassInfo classInfo;
+
+  TreeNode() = default;
+  TreeNode(const TreeNode&) = delete;
+  TreeNode& operator=(const TreeNode&) = delete;
+  ~TreeNode() override;
+  const ClassInfo* GetClassInfo() const override;
+
+  /// Reads a stored tree whose root is of this node's class into this node, replacing its children. Nesting is bounded
+  /// by `DefaultMaximumDepth`. After a failure this node keeps its children, but may have taken over fields of its own.
+  ErrCode Read(IChannel& channel) override;
+  /// Stores this node and everything below it.
+  ErrCode Write(OChannel& channel) const override;
+
+  unsigned int GetChildCount() const { return children_.GetSize(); }
+  /// The child at `index`, or null beyond the last.
+  TreeNode* GetChild(unsigned int index) { return index < children_.GetSize() ? children_[index] : nullptr; }
+  const TreeNode* GetChild(unsigned int index) const {
+    return index < children_.GetSize() ? children_[index] : nullptr;
+  }
+  /// Adds a child after the last; it must not be empty and must not hold this node.
+  void AddChild(Ref<TreeNode> child);
+
+  static constexpr unsigned int DefaultMaximumDepth = 256;
+
+  /// Reads a stored tree, making each node by its registered class. A tree nested more deeply than `maximumDepth` gives
+  /// `ErrTooDeep`. After a failure `root` is unchanged.
+  static ErrCode ReadDynamic(IChannel& channel, Ref<TreeNode>& root, unsigned int maximumDepth = DefaultMaximumDepth);
+
+ protected:
+  /// Reads and writes the node's own fields, without its children.
+  virtual ErrCode ReadSelf(IChannel& channel) = 0;
+  virtual ErrCode WriteSelf(OChannel& channel) const = 0;
+  /// Whether the child at `index` continues a chain that every walk over the tree follows in a loop, as the left
+  /// operand of an operator does: such a child is not nested more deeply than this node.
+  virtual bool ContinuesChain(unsigned int index) const;
+
+ private:
+  friend class TreeReader;
+
+  void DestroyChildren() noexcept;
+
+  ChildList children_;
+};
+
+}  // namespace TW
