@@ -17,7 +17,11 @@ class TW_EXPORT TreeNode : public Object {
  public:
   static ClassInfo classInfo;
 
-  TreeNode() = default;
+  /// Which kind of tree a node belongs to: whoever defines the nodes of a tree chooses a number, so that a child can be told
+  /// from a stranger without asking the run-time type information.
+  using Family = unsigned int;
+
+  explicit TreeNode(Family family = 0) : family_(family) {}
   TreeNode(const TreeNode&) = delete;
   TreeNode& operator=(const TreeNode&) = delete;
   ~TreeNode() override;
@@ -28,6 +32,8 @@ class TW_EXPORT TreeNode : public Object {
   ErrCode Read(IChannel& channel) override;
   /// Stores this node and everything below it.
   ErrCode Write(OChannel& channel) const override;
+
+  Family GetFamily() const { return family_; }
 
   unsigned int GetChildCount() const { return children_.GetSize(); }
   /// The child at `index`, or null beyond the last.
@@ -57,6 +63,7 @@ class TW_EXPORT TreeNode : public Object {
 
   void DestroyChildren() noexcept;
 
+  Family family_;
   ChildList children_;
 };
 
