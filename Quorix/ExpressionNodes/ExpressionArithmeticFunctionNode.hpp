@@ -1,0 +1,85 @@
+#pragma once
+
+#include "Quorix/ExpressionNodes/ExpressionFunctionNode.hpp"
+#include "Quorix/Quantity.hpp"
+
+/// The families of numeric functions. Each fixes the count of arguments and the rule of dimensions once; the dimension is
+/// always checked before the undefined state.
+
+namespace QX {
+
+/// One or more quantities of one dimension make one of that dimension; undefined if any is.
+class QX_EXPORT ExpressionSameDimensionValuesAggregatorFunctionNode : public ExpressionFunctionNode {
+ public:
+  static TW::ClassInfo classInfo;
+  const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
+  bool IsValidParameterCount(unsigned int count) const final { return count >= 1; }
+  ExpressionValue EvaluateInternal(const IExpressionEvaluationEnv& env, const Arguments& arguments) const final;
+
+  virtual double GetOperationResult(const TW::Array<double>& values) const = 0;
+};
+
+/// One quantity makes another.
+class QX_EXPORT ExpressionUnaryArithmeticFunctionNode : public ExpressionFunctionNode {
+ public:
+  static TW::ClassInfo classInfo;
+  const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
+  bool IsValidParameterCount(unsigned int count) const final { return count == 1; }
+  ExpressionValue EvaluateInternal(const IExpressionEvaluationEnv& env, const Arguments& arguments) const final;
+
+  virtual Quantity GetOperationResult(Quantity quantity) const = 0;
+};
+
+/// An angle makes a plain number.
+class QX_EXPORT ExpressionUnaryAngleArithmeticFunctionNode : public ExpressionUnaryArithmeticFunctionNode {
+ public:
+  static TW::ClassInfo classInfo;
+  const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
+  Quantity GetOperationResult(Quantity quantity) const final;
+
+  /// `radians` is the angle.
+  virtual double GetOperationResult(double radians) const = 0;
+};
+
+/// A plain number makes an angle, in radians.
+class QX_EXPORT ExpressionUnaryNonUnitToAngleArithmeticFunctionNode : public ExpressionUnaryArithmeticFunctionNode {
+ public:
+  static TW::ClassInfo classInfo;
+  const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
+  Quantity GetOperationResult(Quantity quantity) const final;
+
+  virtual double GetOperationResult(double value) const = 0;
+};
+
+/// A plain number makes another.
+class QX_EXPORT ExpressionUnaryNonUnitArithmeticFunctionNode : public ExpressionUnaryArithmeticFunctionNode {
+ public:
+  static TW::ClassInfo classInfo;
+  const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
+  Quantity GetOperationResult(Quantity quantity) const final;
+
+  virtual double GetOperationResult(double value) const = 0;
+};
+
+/// Two quantities make one.
+class QX_EXPORT ExpressionBinaryArithmeticFunctionNode : public ExpressionFunctionNode {
+ public:
+  static TW::ClassInfo classInfo;
+  const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
+  bool IsValidParameterCount(unsigned int count) const final { return count == 2; }
+  ExpressionValue EvaluateInternal(const IExpressionEvaluationEnv& env, const Arguments& arguments) const final;
+
+  virtual Quantity GetOperationResult(Quantity a, Quantity b) const = 0;
+};
+
+/// Two plain numbers make one.
+class QX_EXPORT ExpressionBinaryNonUnitArithmeticFunctionNode : public ExpressionBinaryArithmeticFunctionNode {
+ public:
+  static TW::ClassInfo classInfo;
+  const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
+  Quantity GetOperationResult(Quantity a, Quantity b) const final;
+
+  virtual double GetOperationResult(double a, double b) const = 0;
+};
+
+}  // namespace QX

@@ -1,0 +1,57 @@
+#include "Quorix/ExpressionNodes/ExpressionReferenceNode.hpp"
+
+#include "Quorix/ExpressionReferenceFormatUtils.hpp"
+#include "Quorix/ExpressionSemanticExceptions.hpp"
+
+namespace QX {
+namespace {
+
+// Whatever the host throws, and for whatever reason, the formula only learns that there is no value.
+ExpressionValue AskHost(const IExpressionEvaluationEnv& env, const TW::Guid& propertyId, const ExpressionNode* source) {
+  try {
+    return env.GetPropertyValue(propertyId);
+  } catch (...) {
+    throw ExpressionPropertyEvaluationFailed(source);
+  }
+}
+
+}  // namespace
+
+TW::ClassInfo ExpressionReferenceNode::classInfo("ExpressionReferenceNode", "{33B4D13E-794B-4FEE-8D13-15F527EFC003}", 1,
+                                                 &ExpressionNode::classInfo);
+TW::ClassInfo ExpressionPropertyReferenceNode::classInfo("ExpressionPropertyReferenceNode",
+                                                         "{1AF5C228-7607-4175-9B78-A1779295614E}", 1,
+                                                         &ExpressionReferenceNode::classInfo,
+                                                         &ExpressionPropertyReferenceNode::ConstructorFunction);
+
+TW::Ref<TW::Object> ExpressionPropertyReferenceNode::ConstructorFunction() {
+  return TW::MakeRef<ExpressionPropertyReferenceNode>();
+}
+
+ExpressionValue ExpressionPropertyReferenceNode::Evaluate(const IExpressionEvaluationEnv& env) const {
+  ExpressionValue value = AskHost(env, propertyId_, this);
+  if (!value.IsValid()) throw ExpressionPropertyEvaluationFailed(this);
+  return value;
+}
+
+void ExpressionPropertyReferenceNode::BuildExpressionString(IExpressionStringBuilder& builder) const {
+  builder.AppendString(MakeExpressionPropertyReferenceString(propertyId_), this);
+}
+
+void ExpressionPropertyReferenceNode::CollectReferences(IExpressionReferenceCollector& collector) const {
+  collector.PropertyReferenceFound(propertyId_);
+}
+
+void ExpressionPropertyReferenceNode::RestorePropertyReferences(const IGuidMapper& mapper) {
+  propertyId_ = mapper.Map(propertyId_);
+}
+
+TW::ErrCode ExpressionPropertyReferenceNode::WriteSelf(TW::OChannel& channel) const {
+  return WriteFramed(channel, [&] { return channel.WriteGuid(propertyId_); });
+}
+
+TW::ErrCode ExpressionPropertyReferenceNode::ReadSelf(TW::IChannel& channel) {
+  return ReadFramed(channel, [&] { return channel.ReadGuid(propertyId_); });
+}
+
+}  // namespace QX

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "Quorix/ExpressionNodes/ExpressionNode.hpp"
+#include "Quorix/Quantity.hpp"
+
+namespace QX {
+
+/// A sign before an operand, its only child.
+class QX_EXPORT ExpressionUnaryOpNode : public ExpressionNode {
+ public:
+  static TW::ClassInfo classInfo;
+  const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
+
+  /// Throws `ExpressionInvalidArgumentNumber` unless there is exactly one operand, as rendering does.
+  ExpressionValue Evaluate(const IExpressionEvaluationEnv& env) const final;
+  void BuildExpressionString(IExpressionStringBuilder& builder) const final;
+
+  virtual TW::UniString GetOperatorSign() const = 0;
+  virtual ExpressionValue EvaluateInternal(const IExpressionEvaluationEnv& env,
+                                           const ExpressionNode* operand) const = 0;
+
+ protected:
+  TW::ErrCode ReadSelf(TW::IChannel& channel) final { return ReadEmptyFrame(channel); }
+  TW::ErrCode WriteSelf(TW::OChannel& channel) const final { return WriteEmptyFrame(channel); }
+};
+
+/// A sign before a number or quantity.
+class QX_EXPORT ExpressionArithmeticUnaryOpNode : public ExpressionUnaryOpNode {
+ public:
+  static TW::ClassInfo classInfo;
+  const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
+
+  ExpressionValue EvaluateInternal(const IExpressionEvaluationEnv& env, const ExpressionNode* operand) const final;
+
+  virtual Quantity GetOperationResult(Quantity quantity) const = 0;
+};
+
+class QX_EXPORT ExpressionPlusUnaryOpNode final : public ExpressionArithmeticUnaryOpNode {
+ public:
+  static TW::ClassInfo classInfo;
+  static TW::Ref<TW::Object> ConstructorFunction();
+  const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
+  TW::UniString GetOperatorSign() const override;
+  Quantity GetOperationResult(Quantity quantity) const override;
+};
+
+/// Negation. It keeps an undefined quantity as it is and turns 0 into -0.
+class QX_EXPORT ExpressionMinusUnaryOpNode final : public ExpressionArithmeticUnaryOpNode {
+ public:
+  static TW::ClassInfo classInfo;
+  static TW::Ref<TW::Object> ConstructorFunction();
+  const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
+  TW::UniString GetOperatorSign() const override;
+  Quantity GetOperationResult(Quantity quantity) const override;
+};
+
+}  // namespace QX
