@@ -12,11 +12,10 @@ constexpr unsigned int SecondsPerMinute = 60;
 constexpr unsigned int SecondsPerDegree = 3600;
 
 double RoundToStep(double degrees, double step) {
-  // From 2^53 on, doubles are whole, and so is every count of steps.
-  constexpr double LeastWhole = 0x1p53;
-  const double count = degrees / step;
-  if (!(step > 0) || !std::isfinite(step) || !(std::fabs(count) < LeastWhole)) return degrees;
-  return std::round(count) * step;
+  if (!(step > 0) || !std::isfinite(step)) return degrees;
+  const double count = std::round(degrees / step);
+  // Against a step so fine, every angle is a multiple already.
+  return std::isfinite(count) ? count * step : degrees;
 }
 
 bool IsZero(const TW::DecimalNumber& degrees, const TU::ScaledFraction& seconds) {
