@@ -1,7 +1,7 @@
 #include "Quorix/ExpressionNodes/ExpressionIdentifierNode.hpp"
 
 #include "Quorix/ExpressionSemanticExceptions.hpp"
-#include "Quorix/IdentifierNodeRegistry.hpp"
+#include "Quorix/IdentitiferNodeRegistry.hpp"
 
 namespace QX {
 

@@ -1,0 +1,36 @@
+#include "Quorix/ExpressionReferenceFormatUtils.hpp"
+
+#include "EP/ReferenceString.hpp"
+
+namespace QX {
+
+TW::UniString MakeExpressionPropertyReferenceString(const TW::Guid& propertyId) {
+  return EP::MakeReferenceString(TW::UniString(PropertyReferenceType), propertyId.ToUniString());
+}
+
+void EnumeratePropertyReferences(const TW::UniString& text,
+                                 const std::function<void(unsigned int, const TW::Guid&)>& visit) {
+  EP::EnumerateReferenceValues(text, TW::UniString(PropertyReferenceType),
+                               [&visit](unsigned int position, const TW::UniString& value) {
+                                 TW::Guid propertyId;
+                                 if (propertyId.ConvertFromString(value) == TW::NoErr) visit(position, propertyId);
+                               });
+}
+
+bool ContainsPropertyReferences(const TW::UniString& text) {
+  bool found = false;
+  EnumeratePropertyReferences(text, [&found](unsigned int, const TW::Guid&) { found = true; });
+  return found;
+}
+
+bool IsWellFormedExpressionPropertyReference(TW::UniString text, TW::Guid* guid) {
+  TW::UniString value;
+  TW::Guid propertyId;
+  if (!EP::IsWellFormedReferenceString(text, TW::UniString(PropertyReferenceType))) return false;
+  if (!EP::GetRefValueFromReferenceFormat(text, value)) return false;
+  if (propertyId.ConvertFromString(value) != TW::NoErr) return false;
+  if (guid != nullptr) *guid = propertyId;
+  return true;
+}
+
+}  // namespace QX
