@@ -71,7 +71,7 @@ void DecimalNumber::RoundToDecimals(unsigned int decimals) {
   if (up) {
     while (!digits_.empty() && digits_.back() == '9') digits_.pop_back();
     if (digits_.empty()) {
-      digits_ = "1";
+      digits_.push_back('1');
       ++point_;
     } else {
       ++digits_.back();
