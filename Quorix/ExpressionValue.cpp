@@ -22,10 +22,10 @@ ExpressionValue::ExpressionValue(TW::DynamicValue* variant) : ExpressionValue() 
     case TW::DynamicValue::Kind::String:
       *this = FromString(static_cast<const TW::StringValue&>(*owned).Get());
       break;
-    case TW::DynamicValue::Kind::Int:
+    case TW::DynamicValue::Kind::Integer:
       *this = FromInteger(static_cast<const TW::IntValue&>(*owned).Get());
       break;
-    case TW::DynamicValue::Kind::Num:
+    case TW::DynamicValue::Kind::Number:
       *this = FromNumber(static_cast<const TW::NumValue&>(*owned).Get());
       break;
   }

@@ -112,7 +112,7 @@ class QX_EXPORT ExpressionValue {
   ExpressionValue(Kind kind, bool undefined) noexcept : integer_(0), kind_(kind), undefined_(undefined) {}
   ExpressionValue(double number, UnitExponents exponents, bool undefined) noexcept
       : number_(number), exponents_(exponents), kind_(Kind::Number), undefined_(undefined) {}
-  explicit ExpressionValue(TW::UniString&& text, bool undefined) noexcept
+  ExpressionValue(TW::UniString&& text, bool undefined) noexcept
       : text_(std::move(text)), kind_(Kind::Text), undefined_(undefined) {}
 
   void CopyFrom(const ExpressionValue& other);

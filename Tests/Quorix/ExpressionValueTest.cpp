@@ -90,12 +90,20 @@ TEST(ExpressionValue, CopiesMovesAndAssignsEveryKindOverEveryOther) {
 TEST(ExpressionValue, ReadersGiveNeutralResultsForOtherKinds) {
   for (const Sample& sample : Samples()) {
     const ExpressionValue& value = sample.value;
-    if (!sample.logical || sample.undefined) EXPECT_FALSE(value.GetAsBool()) << sample.name;
-    if (!sample.text || sample.undefined) EXPECT_TRUE(value.GetAsString().IsEmpty()) << sample.name;
-    if (!sample.nonUnit || sample.undefined) EXPECT_EQ(value.GetAsNonUnitNumericValue(), 0) << sample.name;
+    if (!sample.logical || sample.undefined) {
+      EXPECT_FALSE(value.GetAsBool()) << sample.name;
+    }
+    if (!sample.text || sample.undefined) {
+      EXPECT_TRUE(value.GetAsString().IsEmpty()) << sample.name;
+    }
+    if (!sample.nonUnit || sample.undefined) {
+      EXPECT_EQ(value.GetAsNonUnitNumericValue(), 0) << sample.name;
+    }
     const Quantity quantity = value.ConvertToQuantity();
     EXPECT_EQ(quantity.IsUserUndefinedValue(), sample.numeric && sample.undefined) << sample.name;
-    if (!sample.numeric) EXPECT_TRUE(quantity.GetNumericValue() == 0 && quantity.IsNonUnit()) << sample.name;
+    if (!sample.numeric) {
+      EXPECT_TRUE(quantity.GetNumericValue() == 0 && quantity.IsNonUnit()) << sample.name;
+    }
   }
   EXPECT_EQ(ExpressionValue::FromInteger(-7).GetAsNonUnitNumericValue(), -7);
   EXPECT_EQ(ExpressionValue::FromQuantity(2, Length).GetAsNonUnitNumericValue(), 0);
@@ -119,7 +127,9 @@ TEST(ExpressionValue, GoesOverTheBorderToDynamicValuesAndBack) {
   for (const Sample& sample : Samples()) {
     auto variant = sample.value.CloneContainedVariant();
     EXPECT_EQ(variant == nullptr, std::string(sample.name) == "invalid");
-    if (variant) EXPECT_EQ(variant->IsUserUndefined(), sample.undefined) << sample.name;
+    if (variant) {
+      EXPECT_EQ(variant->IsUserUndefined(), sample.undefined) << sample.name;
+    }
     const ExpressionValue back(variant.release());
     EXPECT_EQ(back.GetUnitExponents(), UnitExponents()) << sample.name;
     if (sample.value.GetUnitExponents().IsNonUnit()) {

@@ -1,0 +1,54 @@
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "Quorix/QuorixMain.hpp"
+#include "Quorix/QuorixResources.hpp"
+#include "Resources/Language.hpp"
+#include "TW/Image.hpp"
+#include "Text.hpp"
+
+namespace {
+
+bool delayStart = true;
+std::string delayedImage;
+
+}  // namespace
+
+// This program is a host that starts the library itself.
+extern "C" bool TWDelayImageStart(const char* imageName) {
+  delayedImage = imageName;
+  return delayStart;
+}
+
+namespace {
+
+TEST(StartUp, WaitsForAHostThatWantsItSo) {
+  EXPECT_LT(QX::GetQuorixResModule(), 1);
+  EXPECT_EQ(TWInitImage(), 0);
+  EXPECT_LT(QX::GetQuorixResModule(), 1) << "the host still says wait";
+  EXPECT_TRUE(delayedImage.starts_with("libQuorix.so")) << delayedImage;
+
+  delayStart = false;
+  EXPECT_EQ(TWInitImage(), 0);
+  EXPECT_GE(QX::GetQuorixResModule(), 1);
+  EXPECT_EQ(TWInitImage(), 0) << "starting again is harmless";
+  EXPECT_GE(QX::GetQuorixResModule(), 1);
+
+  TWTermImage();
+  TWTermImage();
+  EXPECT_LT(QX::GetQuorixResModule(), 1);
+  Resources::SetLanguage("en");
+  EXPECT_EQ(QX::GetResourceString(106, 13).Substring(0, 11), TW::UniString(u"The divisor")) << "built-in texts remain";
+  EXPECT_TRUE(QX::GetResourceString(106, 99).IsEmpty());
+}
+
+TEST(Image, IsFoundByAnAddressOfIts) {
+  const std::string path = TW::FindImagePath(reinterpret_cast<const void*>(&TWInitImage));
+  EXPECT_TRUE(path.starts_with("/")) << path;
+  EXPECT_NE(path.find("libQuorix.so"), std::string::npos) << path;
+  const int onTheStack = 0;
+  EXPECT_EQ(TW::FindImagePath(&onTheStack), "");
+}
+
+}  // namespace
