@@ -1,8 +1,8 @@
 #pragma once
 
-#include <cstddef>
-
 #include <benchmark/benchmark.h>
+
+#include <cstddef>
 
 /// Counts what the whole process takes from the heap by `new`.
 

@@ -1,15 +1,15 @@
-#include <cstdio>
-#include <cstdlib>
-#include <string>
-
-#include <benchmark/benchmark.h>
-#include <unicode/ustring.h>
-
 #include "AllocationCounter.hpp"
 #include "Quorix/QuorixResources.hpp"
 #include "TW/DecimalNumber.hpp"
 #include "TW/Guid.hpp"
 #include "TW/UniString.hpp"
+
+#include <benchmark/benchmark.h>
+#include <unicode/ustring.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
 
 /// Texts, GUIDs, numbers as text, and the texts of the resources, each beside a call that does the same elsewhere.
 

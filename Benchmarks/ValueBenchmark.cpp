@@ -1,11 +1,11 @@
-#include <memory>
-
-#include <benchmark/benchmark.h>
-
 #include "AllocationCounter.hpp"
 #include "Quorix/ExpressionValue.hpp"
 #include "Quorix/Quantity.hpp"
 #include "TW/DynamicValue.hpp"
+
+#include <benchmark/benchmark.h>
+
+#include <memory>
 
 /// What making, copying and adding values costs. The peer holds its content as a polymorphic object on the heap.
 

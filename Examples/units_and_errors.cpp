@@ -1,14 +1,14 @@
-// Quantities computed in base units, shown in the units and separators of three people, and a failure told to each of them
-// in their language.
-
-#include <cstdio>
-#include <numbers>
-#include <string>
+// Quantities computed in base units, shown in the units and separators of three people, and a failure told to each of
+// them in their language.
 
 #include "Quorix/ExpressionSemanticExceptions.hpp"
 #include "Quorix/ExpressionUnitConverter.hpp"
 #include "Quorix/ExpressionValue.hpp"
 #include "Resources/Language.hpp"
+
+#include <cstdio>
+#include <numbers>
+#include <string>
 
 namespace {
 
@@ -51,12 +51,18 @@ Quantity Divide(const Quantity& area, const Quantity& length) {
 
 int main() {
   const Person people[] = {
-      {"en", {'.', ',', ','}, Units(TWUnit::LengthUnit::FootFractionalInch, TWUnit::AreaUnit::SquareFoot,
-                                    TWUnit::VolumeUnit::CubicYard, TWUnit::AngleUnit::DecimalDegree)},
-      {"de", {',', ';', '.'}, Units(TWUnit::LengthUnit::Meter, TWUnit::AreaUnit::SquareMeter,
-                                    TWUnit::VolumeUnit::CubicMeter, TWUnit::AngleUnit::Gradian)},
-      {"fr", {',', ';', 0x202F}, Units(TWUnit::LengthUnit::Millimeter, TWUnit::AreaUnit::SquareMeter,
-                                       TWUnit::VolumeUnit::Liter, TWUnit::AngleUnit::DegreeMinuteSecond)},
+      {"en",
+       {'.', ',', ','},
+       Units(TWUnit::LengthUnit::FootFractionalInch, TWUnit::AreaUnit::SquareFoot, TWUnit::VolumeUnit::CubicYard,
+             TWUnit::AngleUnit::DecimalDegree)},
+      {"de",
+       {',', ';', '.'},
+       Units(TWUnit::LengthUnit::Meter, TWUnit::AreaUnit::SquareMeter, TWUnit::VolumeUnit::CubicMeter,
+             TWUnit::AngleUnit::Gradian)},
+      {"fr",
+       {',', ';', 0x202F},
+       Units(TWUnit::LengthUnit::Millimeter, TWUnit::AreaUnit::SquareMeter, TWUnit::VolumeUnit::Liter,
+             TWUnit::AngleUnit::DegreeMinuteSecond)},
   };
 
   const Quantity length = ExpressionValue::FromNumericValueAndUnitMarker(1265, u"cm").ConvertToQuantity();
@@ -71,8 +77,12 @@ int main() {
   const struct {
     const char* name;
     Quantity quantity;
-  } rows[] = {{"length", length},       {"height", height}, {"thickness", thickness},
-              {"area", area},           {"volume", volume}, {"slope", slope},
+  } rows[] = {{"length", length},
+              {"height", height},
+              {"thickness", thickness},
+              {"area", area},
+              {"volume", volume},
+              {"slope", slope},
               {"area / length", Divide(area, length)}};
   std::printf("%-14s", "");
   for (const Person& person : people) PrintCell(person.language, 18);

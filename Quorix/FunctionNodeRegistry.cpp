@@ -10,7 +10,9 @@ constexpr std::u16string_view ResourceListSeparator = u"|";
 
 }  // namespace
 
-TW::UniString NormalizeName(const TW::UniString& name) { return name.ToUpperCase(); }
+TW::UniString NormalizeName(const TW::UniString& name) {
+  return name.ToUpperCase();
+}
 
 FunctionNodeRegistry& GetFunctionNodeRegistry() {
   static FunctionNodeRegistry registry;
@@ -23,8 +25,7 @@ void FunctionNodeRegistry::RegisterFunctionName(const TW::UniString& name, const
   inOrder_.push_back(name);
 }
 
-void FunctionNodeRegistry::EnumerateRegisteredFunctions(
-    const std::function<void(const TW::UniString&)>& visit) const {
+void FunctionNodeRegistry::EnumerateRegisteredFunctions(const std::function<void(const TW::UniString&)>& visit) const {
   for (const TW::UniString& name : inOrder_) visit(name);
 }
 
@@ -32,7 +33,9 @@ const FunctionImplementionData* FunctionNodeRegistry::Find(const TW::UniString& 
   return functions_.Find(NormalizeName(name));
 }
 
-bool FunctionNodeRegistry::IsExistingFunction(const TW::UniString& name) const { return Find(name) != nullptr; }
+bool FunctionNodeRegistry::IsExistingFunction(const TW::UniString& name) const {
+  return Find(name) != nullptr;
+}
 
 const TW::ClassInfo* FunctionNodeRegistry::GetFunctionNodeClassInfo(const TW::UniString& name) const {
   const FunctionImplementionData* data = Find(name);

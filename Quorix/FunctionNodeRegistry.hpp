@@ -1,12 +1,12 @@
 #pragma once
 
-#include <functional>
-
 #include "Quorix/Export.hpp"
 #include "TW/Array.hpp"
 #include "TW/ClassInfo.hpp"
 #include "TW/HashTable.hpp"
 #include "TW/UniString.hpp"
+
+#include <functional>
 
 namespace QX {
 
@@ -37,8 +37,8 @@ struct FunctionImplementionData {
   short helpResId;  ///< the string list of its help texts
 };
 
-/// The functions of the language by keyword. It is filled while the library is loaded and only read after that. Names are
-/// found in any case.
+/// The functions of the language by keyword. It is filled while the library is loaded and only read after that. Names
+/// are found in any case.
 class QX_EXPORT FunctionNodeRegistry {
  public:
   /// Adds a function. A keyword that is there already keeps what it stands for, and is listed once more.
@@ -57,8 +57,8 @@ class QX_EXPORT FunctionNodeRegistry {
   short GetFunctionHelpResId(const TW::UniString& name) const;
   /// The keyword in upper case, or the empty text.
   TW::UniString GetFunctionNormalizedName(const TW::UniString& name) const;
-  /// A help text in the user's language, with the function's name as it is given here; empty for a name that is no function.
-  /// `listSeparator` stands between the arguments of the syntax line.
+  /// A help text in the user's language, with the function's name as it is given here; empty for a name that is no
+  /// function. `listSeparator` stands between the arguments of the syntax line.
   TW::UniString GetFunctionHelpString(const TW::UniString& name, HelpType type, unsigned short listSeparator) const;
 
  private:

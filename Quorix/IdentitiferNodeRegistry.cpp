@@ -1,17 +1,19 @@
 #include "Quorix/IdentitiferNodeRegistry.hpp"
 
-#include <numbers>
-
 #include "EP/TextConstants.hpp"
 #include "Quorix/FunctionNodeRegistry.hpp"
 #include "Quorix/QuorixResources.hpp"
+
+#include <numbers>
 
 namespace QX {
 namespace {
 
 constexpr int IdentifierNameList = 108;
 
-TW::UniString KeyOf(std::u16string_view constant) { return NormalizeName(TW::UniString(constant)); }
+TW::UniString KeyOf(std::u16string_view constant) {
+  return NormalizeName(TW::UniString(constant));
+}
 
 }  // namespace
 
@@ -30,7 +32,9 @@ const IdentifierData* IdentitiferNodeRegistry::Find(const TW::UniString& name) c
   return identifiers_.Find(NormalizeName(name));
 }
 
-bool IdentitiferNodeRegistry::IsExistingIdentifier(const TW::UniString& name) const { return Find(name) != nullptr; }
+bool IdentitiferNodeRegistry::IsExistingIdentifier(const TW::UniString& name) const {
+  return Find(name) != nullptr;
+}
 
 ExpressionValue IdentitiferNodeRegistry::GetIdentifierValue(const TW::UniString& name) const {
   const IdentifierData* data = Find(name);

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <functional>
-
 #include "Quorix/Export.hpp"
 #include "Quorix/ExpressionValue.hpp"
 #include "TW/HashTable.hpp"
 #include "TW/UniString.hpp"
+
+#include <functional>
 
 namespace QX {
 

@@ -16,7 +16,8 @@ const OperatorNodeRegistry& GetOperatorNodeRegistry() {
   return registry;
 }
 
-// The numbers are places in the resources, and the order is the one in which operators are listed; neither follows the other.
+// The numbers are places in the resources, and the order is the one in which operators are listed; neither follows the
+// other.
 OperatorNodeRegistry::OperatorNodeRegistry() {
   operators_.Add(TW::UniString(EP::LessOrEqual), 9);
   operators_.Add(TW::UniString(EP::GreaterOrEqual), 10);
@@ -31,7 +32,9 @@ OperatorNodeRegistry::OperatorNodeRegistry() {
   operators_.Add(TW::UniString(EP::Power), 11);
 }
 
-bool OperatorNodeRegistry::IsExistingOperator(const TW::UniString& op) const { return operators_.Contains(op); }
+bool OperatorNodeRegistry::IsExistingOperator(const TW::UniString& op) const {
+  return operators_.Contains(op);
+}
 
 TW::UniString OperatorNodeRegistry::GetOperatorUIName(const TW::UniString& op) const {
   const short* id = operators_.Find(op);

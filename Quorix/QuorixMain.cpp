@@ -1,15 +1,15 @@
 #include "Quorix/QuorixMain.hpp"
 
+#include "Quorix/QuorixResources.hpp"
+#include "Resources/ResourceModule.hpp"
+#include "TW/Image.hpp"
+#include "TW/UniString.hpp"
+
 #include <array>
 #include <atomic>
 #include <cstdlib>
 #include <cstring>
 #include <string>
-
-#include "Quorix/QuorixResources.hpp"
-#include "Resources/ResourceModule.hpp"
-#include "TW/Image.hpp"
-#include "TW/UniString.hpp"
 
 namespace {
 
@@ -40,7 +40,9 @@ void FindModulePlace(const std::string& path) {
 }
 
 // A library that was loaded by a relative path is found only now, before the process changes its folder.
-[[gnu::constructor]] void StartWithTheProcess() { TWInitImage(); }
+[[gnu::constructor]] void StartWithTheProcess() {
+  TWInitImage();
+}
 
 }  // namespace
 
@@ -60,4 +62,6 @@ void TWTermImage() {
   if (module >= 1) Resources::CloseResourceFile(module);
 }
 
-int QX::GetQuorixResModule() { return resourceModule; }
+int QX::GetQuorixResModule() {
+  return resourceModule;
+}

@@ -3,8 +3,8 @@
 #include "Quorix/ExpressionNodes/ExpressionFunctionNode.hpp"
 #include "Quorix/Quantity.hpp"
 
-/// The families of numeric functions. Each fixes the count of arguments and the rule of dimensions once; the dimension is
-/// always checked before the undefined state.
+/// The families of numeric functions. Each fixes the count of arguments and the rule of dimensions once; the dimension
+/// is always checked before the undefined state.
 
 namespace QX {
 

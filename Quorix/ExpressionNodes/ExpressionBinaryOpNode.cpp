@@ -79,9 +79,13 @@ ExpressionValue ExpressionArithmeticBinaryOpNode::EvaluateInternal(const IExpres
   return ExpressionValue::FromQuantity(GetOperationResult(a, b));
 }
 
-TW::Ref<TW::Object> ExpressionAdditionNode::ConstructorFunction() { return TW::MakeRef<ExpressionAdditionNode>(); }
+TW::Ref<TW::Object> ExpressionAdditionNode::ConstructorFunction() {
+  return TW::MakeRef<ExpressionAdditionNode>();
+}
 
-TW::UniString ExpressionAdditionNode::GetOperatorSign() const { return TW::UniString(EP::Add); }
+TW::UniString ExpressionAdditionNode::GetOperatorSign() const {
+  return TW::UniString(EP::Add);
+}
 
 Quantity ExpressionAdditionNode::GetOperationResult(Quantity left, Quantity right) const {
   Quantity sum;
@@ -93,7 +97,9 @@ TW::Ref<TW::Object> ExpressionSubtractionNode::ConstructorFunction() {
   return TW::MakeRef<ExpressionSubtractionNode>();
 }
 
-TW::UniString ExpressionSubtractionNode::GetOperatorSign() const { return TW::UniString(EP::Subtract); }
+TW::UniString ExpressionSubtractionNode::GetOperatorSign() const {
+  return TW::UniString(EP::Subtract);
+}
 
 Quantity ExpressionSubtractionNode::GetOperationResult(Quantity left, Quantity right) const {
   Quantity difference;
@@ -105,7 +111,9 @@ TW::Ref<TW::Object> ExpressionMultiplicationNode::ConstructorFunction() {
   return TW::MakeRef<ExpressionMultiplicationNode>();
 }
 
-TW::UniString ExpressionMultiplicationNode::GetOperatorSign() const { return TW::UniString(EP::Multiply); }
+TW::UniString ExpressionMultiplicationNode::GetOperatorSign() const {
+  return TW::UniString(EP::Multiply);
+}
 
 Quantity ExpressionMultiplicationNode::GetOperationResult(Quantity left, Quantity right) const {
   Quantity product;
@@ -113,9 +121,13 @@ Quantity ExpressionMultiplicationNode::GetOperationResult(Quantity left, Quantit
   return product;
 }
 
-TW::Ref<TW::Object> ExpressionDivisionNode::ConstructorFunction() { return TW::MakeRef<ExpressionDivisionNode>(); }
+TW::Ref<TW::Object> ExpressionDivisionNode::ConstructorFunction() {
+  return TW::MakeRef<ExpressionDivisionNode>();
+}
 
-TW::UniString ExpressionDivisionNode::GetOperatorSign() const { return TW::UniString(EP::Divide); }
+TW::UniString ExpressionDivisionNode::GetOperatorSign() const {
+  return TW::UniString(EP::Divide);
+}
 
 Quantity ExpressionDivisionNode::GetOperationResult(Quantity left, Quantity right) const {
   Quantity quotient;
@@ -123,9 +135,13 @@ Quantity ExpressionDivisionNode::GetOperationResult(Quantity left, Quantity righ
   return quotient;
 }
 
-TW::Ref<TW::Object> ExpressionPowerNode::ConstructorFunction() { return TW::MakeRef<ExpressionPowerNode>(); }
+TW::Ref<TW::Object> ExpressionPowerNode::ConstructorFunction() {
+  return TW::MakeRef<ExpressionPowerNode>();
+}
 
-TW::UniString ExpressionPowerNode::GetOperatorSign() const { return TW::UniString(EP::Power); }
+TW::UniString ExpressionPowerNode::GetOperatorSign() const {
+  return TW::UniString(EP::Power);
+}
 
 Quantity ExpressionPowerNode::GetOperationResult(Quantity left, Quantity right) const {
   return PowerFuncImpl(left, right, this);

@@ -5,15 +5,15 @@
 
 namespace QX {
 
-/// An operator between two operands, its children. Chains of operators that lean to the left (`a + b + c`) are evaluated and
-/// rendered in loops, whatever their length.
+/// An operator between two operands, its children. Chains of operators that lean to the left (`a + b + c`) are
+/// evaluated and rendered in loops, whatever their length.
 class QX_EXPORT ExpressionBinaryOpNode : public ExpressionNode {
  public:
   static TW::ClassInfo classInfo;
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
 
-  /// Throws `ExpressionInvalidArgumentNumber` unless there are exactly two operands, as rendering does. The left operand is
-  /// evaluated first, and its errors win.
+  /// Throws `ExpressionInvalidArgumentNumber` unless there are exactly two operands, as rendering does. The left
+  /// operand is evaluated first, and its errors win.
   ExpressionValue Evaluate(const IExpressionEvaluationEnv& env) const final;
   void BuildExpressionString(IExpressionStringBuilder& builder) const final;
   const ExpressionBinaryOpNode* AsBinaryOperator() const final { return this; }

@@ -6,8 +6,8 @@
 
 namespace QX {
 
-/// A call of a named function; its arguments are its children. A derived class says how many arguments it takes and what it
-/// makes of them; it evaluates those that it needs itself, in its own order.
+/// A call of a named function; its arguments are its children. A derived class says how many arguments it takes and
+/// what it makes of them; it evaluates those that it needs itself, in its own order.
 class QX_EXPORT ExpressionFunctionNode : public ExpressionNode {
  public:
   static TW::ClassInfo classInfo;

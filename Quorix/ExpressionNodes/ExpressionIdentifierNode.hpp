@@ -18,8 +18,8 @@ class QX_EXPORT ExpressionIdentifierNode final : public ExpressionNode {
   explicit ExpressionIdentifierNode(const TW::UniString& name) : name_(name) {}
 
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
-  /// Throws `ExpressionInternalErrorException` for a name that is no constant and `ExpressionInvalidArgumentNumber` when
-  /// there is a child.
+  /// Throws `ExpressionInternalErrorException` for a name that is no constant and `ExpressionInvalidArgumentNumber`
+  /// when there is a child.
   ExpressionValue Evaluate(const IExpressionEvaluationEnv& env) const override;
   void BuildExpressionString(IExpressionStringBuilder& builder) const override;
 

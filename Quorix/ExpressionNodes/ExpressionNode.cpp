@@ -35,9 +35,13 @@ void Enumerate(Node* root, const Visit& visit) {
 TW::ClassInfo ExpressionNode::classInfo("ExpressionNode", "{98E985B1-1B52-4399-87D6-9C2D701CFBBB}", 1,
                                         &EP::SyntaxTreeNode::classInfo);
 
-const TW::ClassInfo* ExpressionNode::GetClassInfo() const { return &classInfo; }
+const TW::ClassInfo* ExpressionNode::GetClassInfo() const {
+  return &classInfo;
+}
 
-VersionNumber ExpressionNode::GetIntroductionVersion() const { return 1; }
+VersionNumber ExpressionNode::GetIntroductionVersion() const {
+  return 1;
+}
 
 void ExpressionNode::CollectReferences(IExpressionReferenceCollector&) const {}
 
@@ -45,9 +49,13 @@ void ExpressionNode::RestorePropertyReferences(const IGuidMapper&) {}
 
 void ExpressionNode::Translate(Localization::PoDictionary&, const TW::UniString&) {}
 
-const ExpressionBinaryOpNode* ExpressionNode::AsBinaryOperator() const { return nullptr; }
+const ExpressionBinaryOpNode* ExpressionNode::AsBinaryOperator() const {
+  return nullptr;
+}
 
-void ExpressionNode::EnumerateRecursive(const std::function<void(ExpressionNode*)>& visit) { Enumerate(this, visit); }
+void ExpressionNode::EnumerateRecursive(const std::function<void(ExpressionNode*)>& visit) {
+  Enumerate(this, visit);
+}
 
 void ExpressionNode::EnumerateRecursive(const std::function<void(const ExpressionNode*)>& visit) const {
   Enumerate(this, visit);
@@ -59,7 +67,9 @@ TW::ErrCode ExpressionNode::WriteEmptyFrame(TW::OChannel& channel) const {
 }
 
 TW::ErrCode ExpressionNode::ReadEmptyFrame(TW::IChannel& channel) {
-  { const TW::InputFrame frame(channel, *GetClassInfo()); }
+  {
+    const TW::InputFrame frame(channel, *GetClassInfo());
+  }
   return channel.GetInputStatus();
 }
 

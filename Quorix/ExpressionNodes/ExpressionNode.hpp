@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-
 #include "EP/LocaleSettings.hpp"
 #include "EP/SyntaxTreeNode.hpp"
 #include "Localization/PoDictionary.hpp"
@@ -13,6 +11,8 @@
 #include "TW/Frame.hpp"
 #include "TW/Guid.hpp"
 #include "TW/UniString.hpp"
+
+#include <functional>
 
 namespace QX {
 
@@ -34,8 +34,8 @@ class QX_EXPORT IExpressionReferenceCollector {
   virtual void PropertyReferenceFound(const TW::Guid& propertyId) = 0;
 };
 
-/// A node of a formula's tree: a literal, a name, an operator or a call. Its operands are its children, in the order in which
-/// they are written. The constant operations only read the tree, so any number of threads may use them at once.
+/// A node of a formula's tree: a literal, a name, an operator or a call. Its operands are its children, in the order in
+/// which they are written. The constant operations only read the tree, so any number of threads may use them at once.
 class QX_EXPORT ExpressionNode : public EP::SyntaxTreeNode {
  public:
   static TW::ClassInfo classInfo;
@@ -51,7 +51,8 @@ class QX_EXPORT ExpressionNode : public EP::SyntaxTreeNode {
 
   /// The version of the formula language in which the node's class first became available.
   virtual VersionNumber GetIntroductionVersion() const;
-  /// Computes the value, evaluating children as needed. Throws an `ExpressionSemanticException` that names the node at fault.
+  /// Computes the value, evaluating children as needed. Throws an `ExpressionSemanticException` that names the node at
+  /// fault.
   virtual ExpressionValue Evaluate(const IExpressionEvaluationEnv& env) const = 0;
   /// Renders the node and, through it, its children.
   virtual void BuildExpressionString(IExpressionStringBuilder& builder) const = 0;
@@ -64,8 +65,9 @@ class QX_EXPORT ExpressionNode : public EP::SyntaxTreeNode {
   /// The node as a binary operator, or null. Chains of operators are followed in loops by means of it.
   virtual const ExpressionBinaryOpNode* AsBinaryOperator() const;
 
-  /// Visits this node, then everything below it, each node before its children and children in order, to any depth. What
-  /// the visitor adds to the node that it visits is visited too. Throws `std::bad_function_call` for an empty function.
+  /// Visits this node, then everything below it, each node before its children and children in order, to any depth.
+  /// What the visitor adds to the node that it visits is visited too. Throws `std::bad_function_call` for an empty
+  /// function.
   void EnumerateRecursive(const std::function<void(ExpressionNode*)>& visit);
   void EnumerateRecursive(const std::function<void(const ExpressionNode*)>& visit) const;
 
@@ -75,8 +77,8 @@ class QX_EXPORT ExpressionNode : public EP::SyntaxTreeNode {
   /// Writes the frame of the node's class; `writeFields` gives the first failure of the fields of version 1.
   template <class WriteFields>
   TW::ErrCode WriteFramed(TW::OChannel& channel, WriteFields&& writeFields) const;
-  /// Reads the frame of the node's class; `readFields` gives the first failure of the fields of version 1. A frame of any
-  /// other version is refused before anything is read.
+  /// Reads the frame of the node's class; `readFields` gives the first failure of the fields of version 1. A frame of
+  /// any other version is refused before anything is read.
   template <class ReadFields>
   TW::ErrCode ReadFramed(TW::IChannel& channel, ReadFields&& readFields);
   /// The same for nodes without fields, which take any version.

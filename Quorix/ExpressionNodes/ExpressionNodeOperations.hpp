@@ -1,12 +1,12 @@
 #pragma once
 
-#include <functional>
-
 #include "Quorix/Export.hpp"
 #include "Quorix/ExpressionNodes/ExpressionNode.hpp"
 #include "Quorix/Quantity.hpp"
 #include "TW/Ref.hpp"
 #include "TW/UniString.hpp"
+
+#include <functional>
 
 namespace QX {
 
@@ -18,8 +18,8 @@ QX_EXPORT void DumpExpressionNodeHierarchy();
 /// Renders the children of `node` as a list in brackets; the brackets, blanks and separators are pieces of `node`.
 void BuildParenthesizedExpressionString(const ExpressionNode* node, IExpressionStringBuilder& builder);
 
-/// The argument readers evaluate `node` and take its value as what is needed. They throw, naming `source`, for a value of the
-/// wrong kind, even a user-undefined one; those that give a bool give false, and leave `out` alone, for a
+/// The argument readers evaluate `node` and take its value as what is needed. They throw, naming `source`, for a value
+/// of the wrong kind, even a user-undefined one; those that give a bool give false, and leave `out` alone, for a
 /// user-undefined value of the right kind. An invalid value is an `ExpressionInternalErrorException` before any other
 /// test.
 

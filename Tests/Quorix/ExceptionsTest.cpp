@@ -1,13 +1,13 @@
-#include <memory>
-#include <type_traits>
-#include <vector>
-
-#include <gtest/gtest.h>
-
 #include "Quorix/ExpressionSemanticExceptions.hpp"
 #include "Quorix/QuorixResources.hpp"
 #include "Resources/Language.hpp"
 #include "Text.hpp"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <type_traits>
+#include <vector>
 
 namespace {
 

@@ -1,11 +1,10 @@
 #include "Quorix/ExpressionMathFunctions.hpp"
-
-#include <cmath>
-#include <limits>
+#include "Quorix/ExpressionSemanticExceptions.hpp"
 
 #include <gtest/gtest.h>
 
-#include "Quorix/ExpressionSemanticExceptions.hpp"
+#include <cmath>
+#include <limits>
 
 namespace {
 
@@ -22,9 +21,10 @@ TEST(Comparison, CountsValuesWithinTheToleranceAsEqual) {
     bool near, less, greater;
   };
   const Row rows[] = {
-      {1.0, 1.0, true, false, false},     {1.0, 1.0 + 5e-10, true, false, false}, {1.0 + 5e-10, 1.0, true, false, false},
-      {1.0, 1.0 + 2e-9, false, true, false}, {1.0 + 2e-9, 1.0, false, false, true},  {-1.0, 1.0, false, true, false},
-      {0.0, 1e-9, true, false, false},    {1e12, 1e12 + 1, false, true, false},
+      {1.0, 1.0, true, false, false},         {1.0, 1.0 + 5e-10, true, false, false},
+      {1.0 + 5e-10, 1.0, true, false, false}, {1.0, 1.0 + 2e-9, false, true, false},
+      {1.0 + 2e-9, 1.0, false, false, true},  {-1.0, 1.0, false, true, false},
+      {0.0, 1e-9, true, false, false},        {1e12, 1e12 + 1, false, true, false},
   };
   for (const Row& row : rows) {
     EXPECT_EQ(QX::IsNear(row.a, row.b), row.near);
@@ -56,9 +56,16 @@ TEST(WholeNumber, IsWhatLiesWithinTheTolerance) {
     int whole;
   };
   const Row rows[] = {
-      {2.9999999995, true, 3},  {2.5, false, 0},  {-2.0000000004, true, -2}, {0.0, true, 0},
-      {-0.4, false, 0},         {NaN, false, 0},  {Infinity, false, 0},      {2147483647.0, true, 2147483647},
-      {1e300, true, std::numeric_limits<int>::max()}, {-1e300, true, std::numeric_limits<int>::min()},
+      {2.9999999995, true, 3},
+      {2.5, false, 0},
+      {-2.0000000004, true, -2},
+      {0.0, true, 0},
+      {-0.4, false, 0},
+      {NaN, false, 0},
+      {Infinity, false, 0},
+      {2147483647.0, true, 2147483647},
+      {1e300, true, std::numeric_limits<int>::max()},
+      {-1e300, true, std::numeric_limits<int>::min()},
   };
   for (const Row& row : rows) {
     int whole = -9;
@@ -114,12 +121,18 @@ TEST(RoundToMultiplier, RoundsTheMagnitudeWithATouchOfTolerance) {
     double result;
   };
   const Row rows[] = {
-      {2.5, 1, RoundingRule::Nearest, 3},          {-2.5, 1, RoundingRule::Nearest, -3},
-      {2.4, 1, RoundingRule::Nearest, 2},          {7, -5, RoundingRule::Nearest, 5},
-      {2.4999999995, 1, RoundingRule::Nearest, 3}, {-2.1, 1, RoundingRule::Up, -3},
-      {2.0000000001, 1, RoundingRule::Up, 2},      {2.1, 1, RoundingRule::Up, 3},
-      {-2.9, 1, RoundingRule::Down, -2},           {1.9999999999, 1, RoundingRule::Down, 2},
-      {1.99, 1, RoundingRule::Down, 1},            {1.25, 0.5, RoundingRule::Up, 1.5},
+      {2.5, 1, RoundingRule::Nearest, 3},
+      {-2.5, 1, RoundingRule::Nearest, -3},
+      {2.4, 1, RoundingRule::Nearest, 2},
+      {7, -5, RoundingRule::Nearest, 5},
+      {2.4999999995, 1, RoundingRule::Nearest, 3},
+      {-2.1, 1, RoundingRule::Up, -3},
+      {2.0000000001, 1, RoundingRule::Up, 2},
+      {2.1, 1, RoundingRule::Up, 3},
+      {-2.9, 1, RoundingRule::Down, -2},
+      {1.9999999999, 1, RoundingRule::Down, 2},
+      {1.99, 1, RoundingRule::Down, 1},
+      {1.25, 0.5, RoundingRule::Up, 1.5},
   };
   for (const Row& row : rows) {
     EXPECT_EQ(QX::RoundToMultiplier(row.x, row.multiplier, row.rule), row.result) << row.x;

@@ -1,14 +1,13 @@
 #include "Quorix/ExpressionValue.hpp"
+#include "Quorix/Values.hpp"
+
+#include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 #include <string>
 #include <utility>
 #include <vector>
-
-#include <gtest/gtest.h>
-
-#include "Quorix/Values.hpp"
 
 namespace {
 
@@ -177,18 +176,30 @@ TEST(ExpressionValue, UnitMarkersAreMatchedExactly) {
     UnitExponents exponents;
   };
   const Row rows[] = {
-      {u"", 1, {0, 0}},           {u"m", 1, {1, 0}},
-      {u"dm", 0.1, {1, 0}},       {u"cm", 0.01, {1, 0}},
-      {u"mm", 0.001, {1, 0}},     {u"'", 0.3048, {1, 0}},
-      {u"ft", 0.3048, {1, 0}},    {u"\"", 0.0254, {1, 0}},
-      {u"in", 0.0254, {1, 0}},    {u"m2", 1, {2, 0}},
-      {u"cm2", 1e-4, {2, 0}},     {u"mm2", 1e-6, {2, 0}},
-      {u"ft2", 0.09290304, {2, 0}}, {u"in2", 0.00064516, {2, 0}},
-      {u"m3", 1, {3, 0}},         {u"l", 1e-3, {3, 0}},
-      {u"cm3", 1e-6, {3, 0}},     {u"y3", 0.764554857984, {3, 0}},
-      {u"ft3", 0.028316846592, {3, 0}}, {u"in3", 1.6387064e-05, {3, 0}},
-      {u"gal", 0.0037854, {3, 0}}, {u"D", 3.141592653589793 / 180, {0, 1}},
-      {u"R", 1, {0, 1}},          {u"G", 3.141592653589793 / 200, {0, 1}},
+      {u"", 1, {0, 0}},
+      {u"m", 1, {1, 0}},
+      {u"dm", 0.1, {1, 0}},
+      {u"cm", 0.01, {1, 0}},
+      {u"mm", 0.001, {1, 0}},
+      {u"'", 0.3048, {1, 0}},
+      {u"ft", 0.3048, {1, 0}},
+      {u"\"", 0.0254, {1, 0}},
+      {u"in", 0.0254, {1, 0}},
+      {u"m2", 1, {2, 0}},
+      {u"cm2", 1e-4, {2, 0}},
+      {u"mm2", 1e-6, {2, 0}},
+      {u"ft2", 0.09290304, {2, 0}},
+      {u"in2", 0.00064516, {2, 0}},
+      {u"m3", 1, {3, 0}},
+      {u"l", 1e-3, {3, 0}},
+      {u"cm3", 1e-6, {3, 0}},
+      {u"y3", 0.764554857984, {3, 0}},
+      {u"ft3", 0.028316846592, {3, 0}},
+      {u"in3", 1.6387064e-05, {3, 0}},
+      {u"gal", 0.0037854, {3, 0}},
+      {u"D", 3.141592653589793 / 180, {0, 1}},
+      {u"R", 1, {0, 1}},
+      {u"G", 3.141592653589793 / 200, {0, 1}},
   };
   for (const Row& row : rows) {
     const Quantity quantity = ExpressionValue::FromNumericValueAndUnitMarker(2, row.marker).ConvertToQuantity();

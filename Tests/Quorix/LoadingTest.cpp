@@ -1,11 +1,11 @@
-#include <filesystem>
-#include <string>
+#include "TW/UniString.hpp"
 
 #include <gtest/gtest.h>
-#include <dlfcn.h>
-#include <unistd.h>
 
-#include "TW/UniString.hpp"
+#include <dlfcn.h>
+#include <filesystem>
+#include <string>
+#include <unistd.h>
 
 // Loads copies of the library the way a host's plug-in would be loaded: this program is not linked with it.
 

@@ -1,9 +1,9 @@
-#include <gtest/gtest.h>
-
 #include "Quorix/EvaluationLocaleSettings.hpp"
 #include "Quorix/LogUtils.hpp"
 #include "TW/SystemSymbols.hpp"
 #include "Text.hpp"
+
+#include <gtest/gtest.h>
 
 namespace {
 

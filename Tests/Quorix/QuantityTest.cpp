@@ -1,12 +1,11 @@
 #include "Quorix/Quantity.hpp"
+#include "Quorix/Values.hpp"
+
+#include <gtest/gtest.h>
 
 #include <climits>
 #include <string>
 #include <vector>
-
-#include <gtest/gtest.h>
-
-#include "Quorix/Values.hpp"
 
 namespace {
 
@@ -18,7 +17,9 @@ constexpr UnitExponents Length = UnitExponents::CreateLength();
 constexpr UnitExponents Area = UnitExponents::CreateArea();
 constexpr UnitExponents Volume = UnitExponents::CreateVolume();
 
-Quantity Undefined(UnitExponents exponents) { return {Quantity::UndefinedSelector(), exponents}; }
+Quantity Undefined(UnitExponents exponents) {
+  return {Quantity::UndefinedSelector(), exponents};
+}
 
 bool AreSame(const Quantity& a, const Quantity& b) {
   return a.IsUserUndefinedValue() == b.IsUserUndefinedValue() && a.GetNumericValue() == b.GetNumericValue() &&
@@ -63,8 +64,10 @@ TEST(UnitExponents, RootsNeedDivisibleExponents) {
     UnitExponents root;
   };
   const Row rows[] = {
-      {{2, 0}, 2, true, {1, 0}},  {{3, 0}, 3, true, {1, 0}},  {{-2, 0}, 2, true, {-1, 0}}, {{4, 2}, 2, true, {2, 1}},
-      {{0, 0}, 5, true, {0, 0}},  {{1, 0}, 2, false, {0, 0}}, {{2, 1}, 2, false, {0, 0}},  {{2, 0}, 0, false, {0, 0}},
+      {{2, 0}, 2, true, {1, 0}},   {{3, 0}, 3, true, {1, 0}},
+      {{-2, 0}, 2, true, {-1, 0}}, {{4, 2}, 2, true, {2, 1}},
+      {{0, 0}, 5, true, {0, 0}},   {{1, 0}, 2, false, {0, 0}},
+      {{2, 1}, 2, false, {0, 0}},  {{2, 0}, 0, false, {0, 0}},
       {{2, 0}, -2, false, {0, 0}}, {{INT_MIN, 0}, 1, true, {INT_MIN, 0}},
   };
   for (const Row& row : rows) {

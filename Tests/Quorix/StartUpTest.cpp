@@ -1,12 +1,12 @@
-#include <string>
-
-#include <gtest/gtest.h>
-
 #include "Quorix/QuorixMain.hpp"
 #include "Quorix/QuorixResources.hpp"
 #include "Resources/Language.hpp"
 #include "TW/Image.hpp"
 #include "Text.hpp"
+
+#include <gtest/gtest.h>
+
+#include <string>
 
 namespace {
 

@@ -1,9 +1,9 @@
-#include <numbers>
+#include "Quorix/ExpressionUnitConverter.hpp"
+#include "Quorix/Values.hpp"
 
 #include <gtest/gtest.h>
 
-#include "Quorix/ExpressionUnitConverter.hpp"
-#include "Quorix/Values.hpp"
+#include <numbers>
 
 namespace {
 
@@ -76,7 +76,8 @@ TEST(UnitFormat, TheCheckSumCoversEverySetting) {
   EXPECT_NE(digest(QX::VolumeFormat({TWUnit::VolumeUnit::Liter, 2})),
             digest(QX::VolumeFormat({TWUnit::VolumeUnit::Liter, 3})));
   // Two 32-bit integers: 0, 1.
-  EXPECT_EQ(digest(QX::AngleFormat({TWUnit::AngleUnit::DecimalDegree, 1})), UniString(u"da35686b165e3223d5d49c046644e68e"));
+  EXPECT_EQ(digest(QX::AngleFormat({TWUnit::AngleUnit::DecimalDegree, 1})),
+            UniString(u"da35686b165e3223d5d49c046644e68e"));
 }
 
 }  // namespace

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <ostream>
-
 #include "Quorix/ExpressionValue.hpp"
 #include "Text.hpp"
+
+#include <ostream>
 
 /// Shows values of the library in the messages of failed tests.
 

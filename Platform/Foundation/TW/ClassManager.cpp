@@ -1,46 +1,35 @@
 #include "TW/ClassManager.hpp"
 
-#include <algorithm>
-#include <unordered_map>
-#include <vector>
+#include "TW/HashTable.hpp"
 
 namespace TW {
 namespace {
 
-struct Classes {
-  std::vector<const ClassInfo*> inOrder;
-  std::unordered_map<Guid, const ClassInfo*> byGuid;
-};
+using ClassTable = HashTable<Guid, const ClassInfo*>;
 
 // Made by the first registration, so that it outlives every static one.
-Classes& GetClasses() {
-  static Classes classes;
+ClassTable& GetClasses() {
+  static ClassTable classes;
   return classes;
 }
 
 }  // namespace
 
 void ClassManager::Register(const ClassInfo& info) {
-  Classes& classes = GetClasses();
-  classes.inOrder.push_back(&info);
-  classes.byGuid.try_emplace(info.GetGuid(), &info);
+  GetClasses().Add(info.GetGuid(), &info);
 }
 
 void ClassManager::Unregister(const ClassInfo& info) {
-  Classes& classes = GetClasses();
-  std::erase(classes.inOrder, &info);
-  const auto found = classes.byGuid.find(info.GetGuid());
-  if (found != classes.byGuid.end() && found->second == &info) classes.byGuid.erase(found);
+  if (Find(info.GetGuid()) == &info) GetClasses().Remove(info.GetGuid());
 }
 
 void ClassManager::EnumerateClassInfos(const std::function<void(const ClassInfo*)>& visit) {
-  for (const ClassInfo* info : GetClasses().inOrder) visit(info);
+  for (const auto& entry : GetClasses()) visit(entry.value);
 }
 
 const ClassInfo* ClassManager::Find(const Guid& guid) {
-  const auto& byGuid = GetClasses().byGuid;
-  const auto found = byGuid.find(guid);
-  return found != byGuid.end() ? found->second : nullptr;
+  const ClassInfo* const* found = GetClasses().Find(guid);
+  return found != nullptr ? *found : nullptr;
 }
 
 }  // namespace TW

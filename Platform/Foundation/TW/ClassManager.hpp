@@ -8,15 +8,15 @@
 
 namespace TW {
 
-/// All registered classes. They are registered while the library is loaded; after that every operation only reads and
-/// may be called from any thread.
+/// All registered classes; of several with one GUID, only the first. They are registered while the library is loaded;
+/// after that every operation only reads and may be called from any thread.
 class TW_EXPORT ClassManager {
  public:
   ClassManager() = delete;
 
   /// Calls `visit` for every registered class, in the order of registration.
   static void EnumerateClassInfos(const std::function<void(const ClassInfo*)>& visit);
-  /// The class with this GUID (the first one registered, should there be several), or null.
+  /// The class with this GUID, or null.
   static const ClassInfo* Find(const Guid& guid);
 
  private:

@@ -17,8 +17,8 @@ class TW_EXPORT TreeNode : public Object {
  public:
   static ClassInfo classInfo;
 
-  /// Which kind of tree a node belongs to: whoever defines the nodes of a tree chooses a number, so that a child can be told
-  /// from a stranger without asking the run-time type information.
+  /// Which kind of tree a node belongs to: whoever defines the nodes of a tree chooses a number, so that a child can be
+  /// told from a stranger without asking the run-time type information.
   using Family = unsigned int;
 
   explicit TreeNode(Family family = 0) : family_(family) {}
