@@ -11,6 +11,7 @@ function(qx_add_layer name)
   target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${arg_ROOT}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
   target_link_libraries(${name} PUBLIC ${arg_USES} PRIVATE qx_options)
   target_compile_features(${name} PUBLIC cxx_std_20)
+  set_target_properties(${name} PROPERTIES QX_ROOT "${arg_ROOT}" LINKER_LANGUAGE CXX)
 
   set(files ${arg_FILES})
   list(TRANSFORM files PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/")

@@ -8,7 +8,8 @@
 
 extern "C" {
 /// A host that wants to start a library itself, later than the loader does, defines this function and answers true for
-/// as long as the library's start is to wait. `imageName` is the file name of the library.
+/// as long as the library's start is to wait. `imageName` is the file name of the library. The loader asks before the
+/// host's own static objects are made.
 TW_EXPORT bool TWDelayImageStart(const char* imageName) __attribute__((weak));
 }
 
