@@ -5,16 +5,18 @@
 namespace QX {
 
 TW::UniString MakeExpressionPropertyReferenceString(const TW::Guid& propertyId) {
-  return EP::MakeReferenceString(TW::UniString(PropertyReferenceType), propertyId.ToUniString());
+  return EP::MakeReferenceString(PropertyReferenceType, propertyId.ToUniString());
 }
 
 void EnumeratePropertyReferences(const TW::UniString& text,
                                  const std::function<void(unsigned int, const TW::Guid&)>& visit) {
-  EP::EnumerateReferenceValues(text, TW::UniString(PropertyReferenceType),
-                               [&visit](unsigned int position, const TW::UniString& value) {
-                                 TW::Guid propertyId;
-                                 if (propertyId.ConvertFromString(value) == TW::NoErr) visit(position, propertyId);
-                               });
+  // Longer values are no GUIDs; looking at all of each would take long where many end at the same bracket.
+  constexpr std::size_t LongestGuid = 38;
+  EP::EnumerateReferenceValues(text, PropertyReferenceType, [&](unsigned int position, std::u16string_view value) {
+    TW::Guid propertyId;
+    if (value.size() > LongestGuid || propertyId.ConvertFromString(TW::UniString(value)) != TW::NoErr) return;
+    visit(position, propertyId);
+  });
 }
 
 bool ContainsPropertyReferences(const TW::UniString& text) {
@@ -26,7 +28,7 @@ bool ContainsPropertyReferences(const TW::UniString& text) {
 bool IsWellFormedExpressionPropertyReference(TW::UniString text, TW::Guid* guid) {
   TW::UniString value;
   TW::Guid propertyId;
-  if (!EP::IsWellFormedReferenceString(text, TW::UniString(PropertyReferenceType))) return false;
+  if (!EP::IsWellFormedReferenceString(text, PropertyReferenceType)) return false;
   if (!EP::GetRefValueFromReferenceFormat(text, value)) return false;
   if (propertyId.ConvertFromString(value) != TW::NoErr) return false;
   if (guid != nullptr) *guid = propertyId;

@@ -26,7 +26,7 @@ class QX_EXPORT ExpressionBinaryOpNode : public ExpressionNode {
  protected:
   TW::ErrCode ReadSelf(TW::IChannel& channel) final { return ReadEmptyFrame(channel); }
   TW::ErrCode WriteSelf(TW::OChannel& channel) const final { return WriteEmptyFrame(channel); }
-  bool ContinuesChain(unsigned int index) const final { return index == 0; }
+  Nesting GetChildNesting(unsigned int index) const override { return index == 0 ? Nesting::None : Nesting::Aside; }
 };
 
 /// An operator that computes a quantity from two.
@@ -86,6 +86,9 @@ class QX_EXPORT ExpressionPowerNode final : public ExpressionArithmeticBinaryOpN
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
   TW::UniString GetOperatorSign() const override;
   Quantity GetOperationResult(Quantity left, Quantity right) const override;
+
+ protected:
+  Nesting GetChildNesting(unsigned int index) const override { return index == 0 ? Nesting::None : Nesting::Level; }
 };
 
 }  // namespace QX

@@ -23,7 +23,7 @@ using TW::TreeNode;
 
 std::atomic<int> livingNodes = 0;
 
-// A node with a number; its first child of two continues a chain.
+// A node with a number; below a negative one the first child continues a chain and the others stand aside.
 class SampleNode final : public TreeNode {
  public:
   static TW::ClassInfo classInfo;
@@ -45,7 +45,10 @@ class SampleNode final : public TreeNode {
     channel.WriteInt32(value_);
     return frame.Close();
   }
-  bool ContinuesChain(unsigned int index) const override { return value_ < 0 && index == 0; }
+  Nesting GetChildNesting(unsigned int index) const override {
+    if (value_ >= 0) return Nesting::Level;
+    return index == 0 ? Nesting::None : Nesting::Aside;
+  }
 
  private:
   std::int32_t value_;
@@ -143,6 +146,14 @@ TEST(TreeNode, NestingIsBoundedAndChainsAreNot) {
   EXPECT_EQ(ReadBack(Stored(*MakeChain(TreeNode::DefaultMaximumDepth + 2, 1)), root), TW::ErrTooDeep);
   EXPECT_FALSE(root);
   EXPECT_EQ(ReadBack(Stored(*MakeChain(100'000, -1)), root), NoErr);
+
+  const auto chainAside = [](unsigned int length) {
+    Ref<TreeNode> node = MakeNode(7);
+    for (unsigned int i = 0; i < length; ++i) node = MakeNode(-1, {MakeNode(7), node});
+    return node;
+  };
+  EXPECT_EQ(ReadBack(Stored(*chainAside(4 * TreeNode::DefaultMaximumDepth)), root), NoErr);
+  EXPECT_EQ(ReadBack(Stored(*chainAside(4 * TreeNode::DefaultMaximumDepth + 4)), root), TW::ErrTooDeep);
 }
 
 TEST(TreeNode, ReadReplacesTheChildrenOrKeepsThem) {

@@ -14,9 +14,7 @@ const ClassInfo* TreeNode::GetClassInfo() const {
   return &classInfo;
 }
 
-bool TreeNode::ContinuesChain(unsigned int) const {
-  return false;
-}
+TreeNode::Nesting TreeNode::GetChildNesting(unsigned int) const { return Nesting::Level; }
 
 TreeNode::~TreeNode() {
   DestroyChildren();
@@ -93,7 +91,7 @@ class TreeReader {
 
   /// Reads what follows the GUID of `root`, and everything below it.
   ErrCode ReadBelow(TreeNode& root) {
-    if (const ErrCode error = ReadFields(root, 0); error != NoErr) return error;
+    if (const ErrCode error = ReadFields(root, {}); error != NoErr) return error;
     while (!path_.empty()) {
       Step& step = path_.back();
       if (step.remaining == 0) {
@@ -107,22 +105,35 @@ class TreeReader {
   }
 
  private:
+  struct Depth {
+    unsigned int levels = 0;
+    unsigned int aside = 0;
+  };
   struct Step {
     TreeNode* node;
     std::uint32_t remaining;
-    unsigned int depth;
+    Depth depth;
   };
 
-  ErrCode ReadChild(TreeNode& parent, unsigned int depth) {
-    if (!parent.ContinuesChain(parent.GetChildCount())) ++depth;
-    if (depth > maximumDepth_) return ErrTooDeep;
+  static constexpr unsigned int MostAsidePerLevel = 4;
+
+  static Depth DepthBelow(const TreeNode& parent, Depth depth) {
+    const TreeNode::Nesting nesting = parent.GetChildNesting(parent.GetChildCount());
+    if (nesting == TreeNode::Nesting::Level) ++depth.levels;
+    if (nesting == TreeNode::Nesting::Aside) ++depth.aside;
+    return depth;
+  }
+
+  ErrCode ReadChild(TreeNode& parent, const Depth& parentDepth) {
+    const Depth depth = DepthBelow(parent, parentDepth);
+    if (depth.levels > maximumDepth_ || depth.aside / MostAsidePerLevel > maximumDepth_) return ErrTooDeep;
     Ref<TreeNode> child;
     if (const ErrCode error = ReadNew(child); error != NoErr) return error;
     parent.AddChild(child);
     return ReadFields(*child, depth);
   }
 
-  ErrCode ReadFields(TreeNode& node, unsigned int depth) {
+  ErrCode ReadFields(TreeNode& node, const Depth& depth) {
     if (const ErrCode error = node.ReadSelf(channel_); error != NoErr) return error;
     std::uint32_t count = 0;
     if (const ErrCode error = channel_.ReadUInt32(count); error != NoErr) return error;

@@ -44,19 +44,24 @@ class TW_EXPORT TreeNode : public Object {
   /// Adds a child after the last; it must not be empty and must not hold this node.
   void AddChild(Ref<TreeNode> child);
 
+  /// How a child is nested.
+  enum class Nesting {
+    None,  ///< it continues a chain that every walk over the tree follows in a loop, as the left operand of an operator
+    Aside,  ///< it stands beside the chain, as the right operand of an operator: in turn only few times on end
+    Level,  ///< it is one level deeper
+  };
   static constexpr unsigned int DefaultMaximumDepth = 256;
 
-  /// Reads a stored tree, making each node by its registered class. A tree nested more deeply than `maximumDepth` gives
-  /// `ErrTooDeep`. After a failure `root` is unchanged.
+  /// Reads a stored tree, making each node by its registered class. A tree of more than `maximumDepth` levels, or with
+  /// more than four times as many nodes aside on one path, gives `ErrTooDeep`. After a failure `root` is unchanged.
   static ErrCode ReadDynamic(IChannel& channel, Ref<TreeNode>& root, unsigned int maximumDepth = DefaultMaximumDepth);
 
  protected:
   /// Reads and writes the node's own fields, without its children.
   virtual ErrCode ReadSelf(IChannel& channel) = 0;
   virtual ErrCode WriteSelf(OChannel& channel) const = 0;
-  /// Whether the child at `index` continues a chain that every walk over the tree follows in a loop, as the left
-  /// operand of an operator does: such a child is not nested more deeply than this node.
-  virtual bool ContinuesChain(unsigned int index) const;
+  /// How much deeper than this node the child at `index` is nested.
+  virtual Nesting GetChildNesting(unsigned int index) const;
 
  private:
   friend class TreeReader;
