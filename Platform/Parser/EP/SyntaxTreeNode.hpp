@@ -12,6 +12,7 @@ class EP_EXPORT SyntaxTreeNode : public TW::TreeNode {
  public:
   static TW::ClassInfo classInfo;
 
+  using TreeNode::TreeNode;
   ~SyntaxTreeNode() override;
   const TW::ClassInfo* GetClassInfo() const override;
 };
