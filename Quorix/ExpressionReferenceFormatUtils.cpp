@@ -2,6 +2,8 @@
 
 #include "EP/ReferenceString.hpp"
 
+#include <string_view>
+
 namespace QX {
 
 TW::UniString MakeExpressionPropertyReferenceString(const TW::Guid& propertyId) {
@@ -11,7 +13,7 @@ TW::UniString MakeExpressionPropertyReferenceString(const TW::Guid& propertyId) 
 void EnumeratePropertyReferences(const TW::UniString& text,
                                  const std::function<void(unsigned int, const TW::Guid&)>& visit) {
   EP::EnumerateReferenceValues(text, TW::UniString(PropertyReferenceType),
-                               [&visit](unsigned int position, const TW::UniString& value) {
+                               [&visit](unsigned int position, std::u16string_view value) {
                                  TW::Guid propertyId;
                                  if (propertyId.ConvertFromString(value) == TW::NoErr) visit(position, propertyId);
                                });
