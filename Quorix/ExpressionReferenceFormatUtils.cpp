@@ -2,6 +2,8 @@
 
 #include "EP/ReferenceString.hpp"
 
+#include <string_view>
+
 namespace QX {
 
 TW::UniString MakeExpressionPropertyReferenceString(const TW::Guid& propertyId) {
@@ -10,12 +12,9 @@ TW::UniString MakeExpressionPropertyReferenceString(const TW::Guid& propertyId) 
 
 void EnumeratePropertyReferences(const TW::UniString& text,
                                  const std::function<void(unsigned int, const TW::Guid&)>& visit) {
-  // Longer values are no GUIDs; looking at all of each would take long where many end at the same bracket.
-  constexpr std::size_t LongestGuid = 38;
-  EP::EnumerateReferenceValues(text, PropertyReferenceType, [&](unsigned int position, std::u16string_view value) {
+  EP::EnumerateReferenceValues(text, PropertyReferenceType, [&visit](unsigned int position, std::u16string_view value) {
     TW::Guid propertyId;
-    if (value.size() > LongestGuid || propertyId.ConvertFromString(TW::UniString(value)) != TW::NoErr) return;
-    visit(position, propertyId);
+    if (propertyId.ConvertFromString(value) == TW::NoErr) visit(position, propertyId);
   });
 }
 

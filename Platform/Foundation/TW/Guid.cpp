@@ -39,13 +39,13 @@ Guid::Guid(std::string_view text) noexcept {
   if (Parse(text, bytes)) bytes_ = bytes;
 }
 
-ErrCode Guid::ConvertFromString(const UniString& text) noexcept {
-  if (text.IsEmpty()) {
+ErrCode Guid::ConvertFromString(std::u16string_view text) noexcept {
+  if (text.empty()) {
     *this = Guid();
     return ErrGuidEmpty;
   }
   Bytes bytes;
-  if (!Parse(text.GetView(), bytes)) return ErrGuidFormat;
+  if (!Parse(text, bytes)) return ErrGuidFormat;
   bytes_ = bytes;
   return NoErr;
 }

@@ -28,7 +28,7 @@ class TW_EXPORT Guid {
   /// Reads 32 hexadecimal digits of either case in groups of 8-4-4-4-12, with or without braces around them.
   /// Gives `ErrGuidEmpty` for an empty text and makes this the null GUID; gives `ErrGuidFormat` for any other text that
   /// is no GUID and leaves this unchanged.
-  ErrCode ConvertFromString(const UniString& text) noexcept;
+  ErrCode ConvertFromString(std::u16string_view text) noexcept;
   /// 36 characters in upper case, without braces.
   UniString ToUniString() const;
 

@@ -323,8 +323,7 @@ void Parser::CloseOperators(Binding loosest) {
 
 TW::Ref<SyntaxTreeNode> BoostGenerateSyntaxTreeBase(const TW::UniString& text, const IParsingLocaleSettings& settings,
                                                     ISyntaxTreeBuilder& builder) {
-  const NormalizedParsingLocaleSettings normalized(settings);
-  return Parser(text.GetView(), normalized, builder).Parse();
+  return Parser(text.GetView(), settings, builder).Parse();
 }
 
 }  // namespace EP

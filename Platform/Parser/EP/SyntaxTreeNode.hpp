@@ -12,7 +12,7 @@ class EP_EXPORT SyntaxTreeNode : public TW::TreeNode {
  public:
   static TW::ClassInfo classInfo;
 
-  explicit SyntaxTreeNode(Family family = 0) : TreeNode(family) {}
+  using TreeNode::TreeNode;
   ~SyntaxTreeNode() override;
   const TW::ClassInfo* GetClassInfo() const override;
 };
