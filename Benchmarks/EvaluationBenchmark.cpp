@@ -38,13 +38,13 @@ class ArrayHost final : public QX::IExpressionEvaluationEnv {
       QX::VolumeFormat({TWUnit::VolumeUnit::CubicMeter, 2}), QX::AngleFormat({TWUnit::AngleUnit::DecimalDegree, 2}))};
 };
 
-// Puts references in the place of the names a, b and c.
+// Puts references in the place of the names A, B and C.
 Expression Parse(const std::string& formula) {
   TW::UniString text;
   for (char character : formula) {
-    if (character >= 'a' && character <= 'c') {
+    if (character >= 'A' && character <= 'C') {
       text += u"[Property:00000000-0000-0000-0000-00000000000";
-      text += TW::UniString::FromInteger(character - 'a' + 1);
+      text += TW::UniString::FromInteger(character - 'A' + 1);
       text += u"]";
     } else {
       text.Append(static_cast<char16_t>(character));
@@ -72,9 +72,9 @@ void EvaluateByMuParser(benchmark::State& state, const std::string& formula) {
   double a = 2.0;
   double b = 3.0;
   double c = 5.0;
-  parser.DefineVar("a", &a);
-  parser.DefineVar("b", &b);
-  parser.DefineVar("c", &c);
+  parser.DefineVar("A", &a);
+  parser.DefineVar("B", &b);
+  parser.DefineVar("C", &c);
   parser.SetExpr(formula);
   parser.Eval();
   for (auto _ : state) {
@@ -84,7 +84,7 @@ void EvaluateByMuParser(benchmark::State& state, const std::string& formula) {
   }
 }
 
-const char* const Arithmetic = "(a + b * 2) / (c - 1.5) ^ 2";
+const char* const Arithmetic = "(A + B * 2) / (C - 1.5) ^ 2";
 
 BENCHMARK_CAPTURE(Evaluate, Arithmetic, Arithmetic);
 BENCHMARK_CAPTURE(EvaluateByMuParser, Arithmetic, Arithmetic);
