@@ -8,9 +8,7 @@ namespace QX {
 
 TW::ClassInfo ExpressionSumFunctionNode::classInfo = MakeClassInfo();
 const TW::UniString ExpressionSumFunctionNode::functionName(Identity.keyword);
-double ExpressionSumFunctionNode::GetOperationResult(const TW::Array<double>& values) const {
-  return Sum(values);
-}
+double ExpressionSumFunctionNode::GetOperationResult(const TW::Array<double>& values) const { return Sum(values); }
 
 TW::ClassInfo ExpressionMinFunctionNode::classInfo = MakeClassInfo();
 const TW::UniString ExpressionMinFunctionNode::functionName(Identity.keyword);

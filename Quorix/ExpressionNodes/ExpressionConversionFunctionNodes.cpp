@@ -14,9 +14,7 @@ constexpr unsigned int UsualDecimals = 2;
 constexpr unsigned int MostDecimals = 12;
 constexpr TWUnit::UnitMarkerMode MarkerMode = TWUnit::UnitMarkerMode::Legacy;
 
-ExpressionValue UndefinedText() {
-  return ExpressionValue::FromString(ExpressionValue::UndefinedSelector());
-}
+ExpressionValue UndefinedText() { return ExpressionValue::FromString(ExpressionValue::UndefinedSelector()); }
 
 ExpressionValue FromFormatted(TW::Optional<TW::UniString> text, const ExpressionNode* node) {
   if (!text) throw ExpressionInternalErrorException(node);

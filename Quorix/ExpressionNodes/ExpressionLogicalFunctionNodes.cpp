@@ -7,9 +7,7 @@
 namespace QX {
 namespace {
 
-ExpressionValue UndefinedBool() {
-  return ExpressionValue::FromBool(ExpressionValue::UndefinedSelector());
-}
+ExpressionValue UndefinedBool() { return ExpressionValue::FromBool(ExpressionValue::UndefinedSelector()); }
 
 // One argument that is `decisive` settles the answer, which is then that; without any, it is the opposite.
 ExpressionValue SettleBy(bool decisive, const IExpressionEvaluationEnv& env,

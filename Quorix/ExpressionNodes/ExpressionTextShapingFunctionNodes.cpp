@@ -13,9 +13,7 @@
 namespace QX {
 namespace {
 
-ExpressionValue UndefinedText() {
-  return ExpressionValue::FromString(ExpressionValue::UndefinedSelector());
-}
+ExpressionValue UndefinedText() { return ExpressionValue::FromString(ExpressionValue::UndefinedSelector()); }
 
 // An empty text with room for all that is to be appended, so that an impossible request fails before any work is done.
 TW::UniString MakeTextWithRoomFor(std::uint64_t length) {

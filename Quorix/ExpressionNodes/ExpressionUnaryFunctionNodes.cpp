@@ -15,9 +15,7 @@ void RequireDomain(bool inDomain, const ExpressionNode* node) {
   if (!inDomain) throw ExpressionOutOfDomainOfMathematicalFunction(node);
 }
 
-bool IsSineOrCosine(double value) {
-  return !IsLess(value, -1.0) && !IsGreater(value, 1.0);
-}
+bool IsSineOrCosine(double value) { return !IsLess(value, -1.0) && !IsGreater(value, 1.0); }
 
 }  // namespace
 
@@ -48,15 +46,11 @@ Quantity ExpressionSignFunctionNode::GetOperationResult(Quantity quantity) const
 
 TW::ClassInfo ExpressionSineFunctionNode::classInfo = MakeClassInfo();
 const TW::UniString ExpressionSineFunctionNode::functionName(Identity.keyword);
-double ExpressionSineFunctionNode::GetOperationResult(double radians) const {
-  return std::sin(radians);
-}
+double ExpressionSineFunctionNode::GetOperationResult(double radians) const { return std::sin(radians); }
 
 TW::ClassInfo ExpressionCosineFunctionNode::classInfo = MakeClassInfo();
 const TW::UniString ExpressionCosineFunctionNode::functionName(Identity.keyword);
-double ExpressionCosineFunctionNode::GetOperationResult(double radians) const {
-  return std::cos(radians);
-}
+double ExpressionCosineFunctionNode::GetOperationResult(double radians) const { return std::cos(radians); }
 
 TW::ClassInfo ExpressionTangentFunctionNode::classInfo = MakeClassInfo();
 const TW::UniString ExpressionTangentFunctionNode::functionName(Identity.keyword);
@@ -88,9 +82,7 @@ double ExpressionArcCosineFunctionNode::GetOperationResult(double value) const {
 
 TW::ClassInfo ExpressionArcTangentFunctionNode::classInfo = MakeClassInfo();
 const TW::UniString ExpressionArcTangentFunctionNode::functionName(Identity.keyword);
-double ExpressionArcTangentFunctionNode::GetOperationResult(double value) const {
-  return std::atan(value);
-}
+double ExpressionArcTangentFunctionNode::GetOperationResult(double value) const { return std::atan(value); }
 
 TW::ClassInfo ExpressionArcCotangentFunctionNode::classInfo = MakeClassInfo();
 const TW::UniString ExpressionArcCotangentFunctionNode::functionName(Identity.keyword);
@@ -101,9 +93,7 @@ double ExpressionArcCotangentFunctionNode::GetOperationResult(double value) cons
 
 TW::ClassInfo ExpressionExpFunctionNode::classInfo = MakeClassInfo();
 const TW::UniString ExpressionExpFunctionNode::functionName(Identity.keyword);
-double ExpressionExpFunctionNode::GetOperationResult(double value) const {
-  return std::exp(value);
-}
+double ExpressionExpFunctionNode::GetOperationResult(double value) const { return std::exp(value); }
 
 TW::ClassInfo ExpressionLnFunctionNode::classInfo = MakeClassInfo();
 const TW::UniString ExpressionLnFunctionNode::functionName(Identity.keyword);

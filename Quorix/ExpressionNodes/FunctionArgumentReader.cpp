@@ -16,20 +16,12 @@ ExpressionValue FunctionArgumentReader::ReadValue() {
   return value;
 }
 
-TW::UniString FunctionArgumentReader::ReadText() {
-  return Read(&GetStringValueFromNode, TW::UniString());
-}
+TW::UniString FunctionArgumentReader::ReadText() { return Read(&GetStringValueFromNode, TW::UniString()); }
 
-bool FunctionArgumentReader::ReadBool() {
-  return Read(&GetBooleanValueFromNode, true);
-}
+bool FunctionArgumentReader::ReadBool() { return Read(&GetBooleanValueFromNode, true); }
 
-unsigned int FunctionArgumentReader::ReadCount() {
-  return Read(&GetZeroOrPositiveWholeNumberFromNode, 0U);
-}
+unsigned int FunctionArgumentReader::ReadCount() { return Read(&GetZeroOrPositiveWholeNumberFromNode, 0U); }
 
-unsigned int FunctionArgumentReader::ReadPosition() {
-  return Read(&GetPositiveWholeNumberFromNode, 1U);
-}
+unsigned int FunctionArgumentReader::ReadPosition() { return Read(&GetPositiveWholeNumberFromNode, 1U); }
 
 }  // namespace QX

@@ -22,8 +22,6 @@ int FindIthOccurrencePos(const TW::UniString& text, const TW::UniString& separat
   return found;
 }
 
-ExpressionValue FromTextPosition(unsigned int position) {
-  return ExpressionValue::FromInteger(HeldToLimit(position));
-}
+ExpressionValue FromTextPosition(unsigned int position) { return ExpressionValue::FromInteger(HeldToLimit(position)); }
 
 }  // namespace QX
