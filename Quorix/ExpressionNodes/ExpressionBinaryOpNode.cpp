@@ -1,5 +1,7 @@
 #include "Quorix/ExpressionNodes/ExpressionBinaryOpNode.hpp"
 
+#include <algorithm>
+
 #include "EP/TextConstants.hpp"
 #include "Quorix/ExpressionNodes/ExpressionCommonFunctionNodeImpl.hpp"
 #include "Quorix/ExpressionNodes/ExpressionNodeOperations.hpp"
@@ -12,17 +14,37 @@ namespace {
 using Chain = TW::Array<const ExpressionBinaryOpNode*>;
 
 void RequireTwoOperands(const ExpressionBinaryOpNode* node) {
-  if (node->GetChildCount() != 2) throw ExpressionInvalidArgumentNumber(node);
+  if (node->GetChildCount() != 2) [[unlikely]]
+    throw ExpressionInvalidArgumentNumber(node);
 }
+
+bool IsBinaryOperator(const ExpressionNode* node) { return node->GetKind() != ExpressionNode::Ordinary; }
 
 // The operators from `top` down its left operands; the lowest one's left operand is no operator.
 Chain FollowLeftOperands(const ExpressionBinaryOpNode* top) {
   Chain chain;
-  for (const ExpressionBinaryOpNode* node = top; node != nullptr; node = node->GetChild(0)->AsBinaryOperator()) {
-    RequireTwoOperands(node);
-    chain.push_back(node);
-  }
+  const ExpressionNode* node = top;
+  do {
+    const auto* op = static_cast<const ExpressionBinaryOpNode*>(node);
+    RequireTwoOperands(op);
+    chain.push_back(op);
+    node = op->GetChild(0);
+  } while (IsBinaryOperator(node));
   return chain;
+}
+
+ExpressionValue EvaluateChain(const IExpressionEvaluationEnv& env, const Chain& chain) {
+  ExpressionValue value = chain.back()->GetChild(0)->Evaluate(env);
+  for (auto node = chain.rbegin(); node != chain.rend(); ++node) {
+    value = (*node)->EvaluateInternal(env, value, (*node)->GetChild(1));
+  }
+  return value;
+}
+
+// The quantity behind a value, also one that is invalid because it is not finite.
+Quantity AsComputed(const ExpressionValue& value) {
+  if (value.IsUserUndefined()) return {Quantity::UndefinedSelector(), value.GetUnitExponents()};
+  return {value.GetIntOrNumVariantValue(), value.GetUnitExponents()};
 }
 
 }  // namespace
@@ -51,15 +73,7 @@ TW::ClassInfo ExpressionPowerNode::classInfo("ExpressionPowerNode", "{7A70BCD6-B
                                              &ExpressionPowerNode::ConstructorFunction);
 
 ExpressionValue ExpressionBinaryOpNode::Evaluate(const IExpressionEvaluationEnv& env) const {
-  RequireTwoOperands(this);
-  if (GetChild(0)->AsBinaryOperator() == nullptr) return EvaluateInternal(env, GetChild(0)->Evaluate(env), GetChild(1));
-
-  const Chain chain = FollowLeftOperands(this);
-  ExpressionValue value = chain.back()->GetChild(0)->Evaluate(env);
-  for (auto node = chain.rbegin(); node != chain.rend(); ++node) {
-    value = (*node)->EvaluateInternal(env, value, (*node)->GetChild(1));
-  }
-  return value;
+  return EvaluateChain(env, FollowLeftOperands(this));
 }
 
 void ExpressionBinaryOpNode::BuildExpressionString(IExpressionStringBuilder& builder) const {
@@ -75,8 +89,38 @@ ExpressionValue ExpressionArithmeticBinaryOpNode::EvaluateInternal(const IExpres
                                                                    const ExpressionValue& left,
                                                                    const ExpressionNode* right) const {
   const Quantity a = RequireQuantity(left, this);
-  const Quantity b = GetQuantityValueFromNode(env, right, this);
-  return ExpressionValue::FromQuantity(GetOperationResult(a, b));
+  return ExpressionValue::FromQuantity(GetOperationResult(a, GetQuantityValueFromNode(env, right, this)));
+}
+
+ExpressionValue ExpressionArithmeticBinaryOpNode::Evaluate(const IExpressionEvaluationEnv& env) const {
+  return ExpressionValue::FromQuantity(Compute(env));
+}
+
+Quantity ExpressionArithmeticBinaryOpNode::EvaluateQuantity(const IExpressionEvaluationEnv& env,
+                                                            const ExpressionNode* source) const {
+  return RequireFinite(Compute(env), source);
+}
+
+Quantity ExpressionArithmeticBinaryOpNode::Compute(const IExpressionEvaluationEnv& env) const {
+  RequireTwoOperands(this);
+  const ExpressionNode* left = GetChild(0);
+  if (IsBinaryOperator(left)) return ComputeChain(env);
+  const Quantity a = GetQuantityValueFromNode(env, left, this);
+  return GetOperationResult(a, GetQuantityValueFromNode(env, GetChild(1), this));
+}
+
+Quantity ExpressionArithmeticBinaryOpNode::ComputeChain(const IExpressionEvaluationEnv& env) const {
+  const Chain chain = FollowLeftOperands(this);
+  const auto isArithmetic = [](const ExpressionNode* node) { return node->GetKind() == ArithmeticOperator; };
+  if (!std::all_of(chain.begin(), chain.end(), isArithmetic)) return AsComputed(EvaluateChain(env, chain));
+
+  Quantity result = GetQuantityValueFromNode(env, chain.back()->GetChild(0), chain.back());
+  for (auto node = chain.rbegin(); node != chain.rend(); ++node) {
+    if (node != chain.rbegin()) RequireFinite(result, *node);
+    const auto* op = static_cast<const ExpressionArithmeticBinaryOpNode*>(*node);
+    result = op->GetOperationResult(result, GetQuantityValueFromNode(env, op->GetChild(1), op));
+  }
+  return result;
 }
 
 TW::Ref<TW::Object> ExpressionAdditionNode::ConstructorFunction() {
@@ -87,7 +131,7 @@ TW::UniString ExpressionAdditionNode::GetOperatorSign() const {
   return TW::UniString(EP::Add);
 }
 
-Quantity ExpressionAdditionNode::GetOperationResult(Quantity left, Quantity right) const {
+Quantity ExpressionAdditionNode::GetOperationResult(const Quantity& left, const Quantity& right) const {
   Quantity sum;
   if (!Quantity::Add(left, right, sum)) throw ExpressionIncompatibleArgumentDimensions(this);
   return sum;
@@ -101,7 +145,7 @@ TW::UniString ExpressionSubtractionNode::GetOperatorSign() const {
   return TW::UniString(EP::Subtract);
 }
 
-Quantity ExpressionSubtractionNode::GetOperationResult(Quantity left, Quantity right) const {
+Quantity ExpressionSubtractionNode::GetOperationResult(const Quantity& left, const Quantity& right) const {
   Quantity difference;
   if (!Quantity::Subtract(left, right, difference)) throw ExpressionIncompatibleArgumentDimensions(this);
   return difference;
@@ -115,7 +159,7 @@ TW::UniString ExpressionMultiplicationNode::GetOperatorSign() const {
   return TW::UniString(EP::Multiply);
 }
 
-Quantity ExpressionMultiplicationNode::GetOperationResult(Quantity left, Quantity right) const {
+Quantity ExpressionMultiplicationNode::GetOperationResult(const Quantity& left, const Quantity& right) const {
   Quantity product;
   if (!Quantity::Multiply(left, right, product)) throw ExpressionInternalErrorException(this);
   return product;
@@ -129,7 +173,7 @@ TW::UniString ExpressionDivisionNode::GetOperatorSign() const {
   return TW::UniString(EP::Divide);
 }
 
-Quantity ExpressionDivisionNode::GetOperationResult(Quantity left, Quantity right) const {
+Quantity ExpressionDivisionNode::GetOperationResult(const Quantity& left, const Quantity& right) const {
   Quantity quotient;
   if (!Quantity::Divide(left, right, quotient)) throw ExpressionDivisionByZero(this);
   return quotient;
@@ -143,7 +187,7 @@ TW::UniString ExpressionPowerNode::GetOperatorSign() const {
   return TW::UniString(EP::Power);
 }
 
-Quantity ExpressionPowerNode::GetOperationResult(Quantity left, Quantity right) const {
+Quantity ExpressionPowerNode::GetOperationResult(const Quantity& left, const Quantity& right) const {
   return PowerFuncImpl(left, right, this);
 }
 

@@ -1,5 +1,6 @@
 #include "Quorix/ExpressionNodes/ExpressionNode.hpp"
 
+#include "Quorix/ExpressionNodes/ExpressionNodeOperations.hpp"
 #include "TW/Array.hpp"
 
 namespace QX {
@@ -49,8 +50,8 @@ void ExpressionNode::RestorePropertyReferences(const IGuidMapper&) {}
 
 void ExpressionNode::Translate(Localization::PoDictionary&, const TW::UniString&) {}
 
-const ExpressionBinaryOpNode* ExpressionNode::AsBinaryOperator() const {
-  return nullptr;
+Quantity ExpressionNode::EvaluateQuantity(const IExpressionEvaluationEnv& env, const ExpressionNode* source) const {
+  return RequireQuantity(Evaluate(env), source);
 }
 
 void ExpressionNode::EnumerateRecursive(const std::function<void(ExpressionNode*)>& visit) {

@@ -42,11 +42,15 @@ bool GetZeroOrPositiveWholeNumberFromNode(const IExpressionEvaluationEnv& env, c
 bool GetPositiveWholeNumberFromNode(const IExpressionEvaluationEnv& env, const ExpressionNode* node,
                                     const ExpressionNode* source, unsigned int& out);
 /// A number with or without unit, or else `ExpressionInvalidQuantityType`.
-Quantity GetQuantityValueFromNode(const IExpressionEvaluationEnv& env, const ExpressionNode* node,
-                                  const ExpressionNode* source);
+inline Quantity GetQuantityValueFromNode(const IExpressionEvaluationEnv& env, const ExpressionNode* node,
+                                         const ExpressionNode* source) {
+  return node->EvaluateQuantity(env, source);
+}
 
 /// The same for a value that is there already.
 const ExpressionValue& RequireValid(const ExpressionValue& value, const ExpressionNode* source);
 Quantity RequireQuantity(const ExpressionValue& value, const ExpressionNode* source);
+/// The quantity that a node has computed, which is invalid when it is not finite.
+const Quantity& RequireFinite(const Quantity& quantity, const ExpressionNode* source);
 
 }  // namespace QX
