@@ -40,9 +40,7 @@ void FindModulePlace(const std::string& path) {
 }
 
 // A library that was loaded by a relative path is found only now, before the process changes its folder.
-[[gnu::constructor]] void StartWithTheProcess() {
-  TWInitImage();
-}
+[[gnu::constructor]] void StartWithTheProcess() { TWInitImage(); }
 
 }  // namespace
 
@@ -62,6 +60,4 @@ void TWTermImage() {
   if (module >= 1) Resources::CloseResourceFile(module);
 }
 
-int QX::GetQuorixResModule() {
-  return resourceModule;
-}
+int QX::GetQuorixResModule() { return resourceModule; }
