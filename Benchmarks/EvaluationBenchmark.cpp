@@ -1,12 +1,12 @@
-#include <array>
-#include <cmath>
-#include <string>
-
-#include <benchmark/benchmark.h>
-#include <muParser.h>
-
 #include "AllocationCounter.hpp"
 #include "Quorix/Quorix.hpp"
+
+#include <benchmark/benchmark.h>
+
+#include <array>
+#include <cmath>
+#include <muParser.h>
+#include <string>
 
 /// Evaluating formulas whose properties a host answers from an array, beside muParser, which knows plain doubles only.
 

@@ -18,6 +18,11 @@ int HeldToLimits(double whole) {
 }  // namespace
 
 bool WholeNumberFromDouble(double x, int& whole) {
+  // Most numbers that should be whole are, and need no rounding.
+  if (std::fabs(x) <= std::numeric_limits<int>::max() && static_cast<int>(x) == x) {
+    whole = static_cast<int>(x);
+    return true;
+  }
   const double rounded = std::round(x);
   const bool isWhole = IsNear(x, rounded);
   whole = isWhole ? HeldToLimits(rounded) : 0;
@@ -73,8 +78,6 @@ double GetValidatedMultiplier(int digits, const ExpressionNode* node) {
   return multiplier;
 }
 
-double Sum(const TW::Array<double>& values) {
-  return std::accumulate(values.begin(), values.end(), 0.0);
-}
+double Sum(const TW::Array<double>& values) { return std::accumulate(values.begin(), values.end(), 0.0); }
 
 }  // namespace QX

@@ -5,7 +5,6 @@
 #include "Quorix/Tolerance.hpp"
 #include "TW/Array.hpp"
 
-
 /// How the whole library finds whole numbers, and computes powers, roots and multiples.
 
 namespace QX {

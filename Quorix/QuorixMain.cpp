@@ -38,9 +38,7 @@ void FindModulePlace(const std::string& path) {
 }
 
 // A library that was loaded by a relative path is found only now, before the process changes its folder.
-[[gnu::constructor]] void StartWithTheProcess() {
-  TWInitImage();
-}
+[[gnu::constructor]] void StartWithTheProcess() { TWInitImage(); }
 
 }  // namespace
 
@@ -60,6 +58,4 @@ void TWTermImage() {
   if (module >= 1) Resources::CloseResourceFile(module);
 }
 
-int QX::GetQuorixResModule() {
-  return Resources::GetProcessModule();
-}
+int QX::GetQuorixResModule() { return Resources::GetProcessModule(); }

@@ -1,12 +1,12 @@
 #include "Quorix/ExpressionNodes/ExpressionBinaryOpNode.hpp"
 
-#include <algorithm>
-
 #include "EP/TextConstants.hpp"
 #include "Quorix/ExpressionNodes/ExpressionCommonFunctionNodeImpl.hpp"
 #include "Quorix/ExpressionNodes/ExpressionNodeOperations.hpp"
 #include "Quorix/ExpressionSemanticExceptions.hpp"
 #include "TW/Array.hpp"
+
+#include <algorithm>
 
 namespace QX {
 namespace {
@@ -123,13 +123,9 @@ Quantity ExpressionArithmeticBinaryOpNode::ComputeChain(const IExpressionEvaluat
   return result;
 }
 
-TW::Ref<TW::Object> ExpressionAdditionNode::ConstructorFunction() {
-  return TW::MakeRef<ExpressionAdditionNode>();
-}
+TW::Ref<TW::Object> ExpressionAdditionNode::ConstructorFunction() { return TW::MakeRef<ExpressionAdditionNode>(); }
 
-TW::UniString ExpressionAdditionNode::GetOperatorSign() const {
-  return TW::UniString(EP::Add);
-}
+TW::UniString ExpressionAdditionNode::GetOperatorSign() const { return TW::UniString(EP::Add); }
 
 Quantity ExpressionAdditionNode::GetOperationResult(const Quantity& left, const Quantity& right) const {
   Quantity sum;
@@ -141,9 +137,7 @@ TW::Ref<TW::Object> ExpressionSubtractionNode::ConstructorFunction() {
   return TW::MakeRef<ExpressionSubtractionNode>();
 }
 
-TW::UniString ExpressionSubtractionNode::GetOperatorSign() const {
-  return TW::UniString(EP::Subtract);
-}
+TW::UniString ExpressionSubtractionNode::GetOperatorSign() const { return TW::UniString(EP::Subtract); }
 
 Quantity ExpressionSubtractionNode::GetOperationResult(const Quantity& left, const Quantity& right) const {
   Quantity difference;
@@ -155,9 +149,7 @@ TW::Ref<TW::Object> ExpressionMultiplicationNode::ConstructorFunction() {
   return TW::MakeRef<ExpressionMultiplicationNode>();
 }
 
-TW::UniString ExpressionMultiplicationNode::GetOperatorSign() const {
-  return TW::UniString(EP::Multiply);
-}
+TW::UniString ExpressionMultiplicationNode::GetOperatorSign() const { return TW::UniString(EP::Multiply); }
 
 Quantity ExpressionMultiplicationNode::GetOperationResult(const Quantity& left, const Quantity& right) const {
   Quantity product;
@@ -165,13 +157,9 @@ Quantity ExpressionMultiplicationNode::GetOperationResult(const Quantity& left, 
   return product;
 }
 
-TW::Ref<TW::Object> ExpressionDivisionNode::ConstructorFunction() {
-  return TW::MakeRef<ExpressionDivisionNode>();
-}
+TW::Ref<TW::Object> ExpressionDivisionNode::ConstructorFunction() { return TW::MakeRef<ExpressionDivisionNode>(); }
 
-TW::UniString ExpressionDivisionNode::GetOperatorSign() const {
-  return TW::UniString(EP::Divide);
-}
+TW::UniString ExpressionDivisionNode::GetOperatorSign() const { return TW::UniString(EP::Divide); }
 
 Quantity ExpressionDivisionNode::GetOperationResult(const Quantity& left, const Quantity& right) const {
   Quantity quotient;
@@ -179,13 +167,9 @@ Quantity ExpressionDivisionNode::GetOperationResult(const Quantity& left, const 
   return quotient;
 }
 
-TW::Ref<TW::Object> ExpressionPowerNode::ConstructorFunction() {
-  return TW::MakeRef<ExpressionPowerNode>();
-}
+TW::Ref<TW::Object> ExpressionPowerNode::ConstructorFunction() { return TW::MakeRef<ExpressionPowerNode>(); }
 
-TW::UniString ExpressionPowerNode::GetOperatorSign() const {
-  return TW::UniString(EP::Power);
-}
+TW::UniString ExpressionPowerNode::GetOperatorSign() const { return TW::UniString(EP::Power); }
 
 Quantity ExpressionPowerNode::GetOperationResult(const Quantity& left, const Quantity& right) const {
   return PowerFuncImpl(left, right, this);

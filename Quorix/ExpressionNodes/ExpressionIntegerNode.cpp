@@ -8,9 +8,7 @@ namespace QX {
 TW::ClassInfo ExpressionIntegerNode::classInfo("ExpressionIntegerNode", "{9ED4C1F8-C947-455A-93D3-29756D1DCCC8}", 1,
                                                &ExpressionNode::classInfo, &ExpressionIntegerNode::ConstructorFunction);
 
-TW::Ref<TW::Object> ExpressionIntegerNode::ConstructorFunction() {
-  return TW::MakeRef<ExpressionIntegerNode>();
-}
+TW::Ref<TW::Object> ExpressionIntegerNode::ConstructorFunction() { return TW::MakeRef<ExpressionIntegerNode>(); }
 
 ExpressionValue ExpressionIntegerNode::Evaluate(const IExpressionEvaluationEnv&) const {
   if (unit_.GetMarker().IsEmpty()) return ExpressionValue::FromInteger(value_);

@@ -36,13 +36,9 @@ void Enumerate(Node* root, const Visit& visit) {
 TW::ClassInfo ExpressionNode::classInfo("ExpressionNode", "{98E985B1-1B52-4399-87D6-9C2D701CFBBB}", 1,
                                         &EP::SyntaxTreeNode::classInfo);
 
-const TW::ClassInfo* ExpressionNode::GetClassInfo() const {
-  return &classInfo;
-}
+const TW::ClassInfo* ExpressionNode::GetClassInfo() const { return &classInfo; }
 
-VersionNumber ExpressionNode::GetIntroductionVersion() const {
-  return 1;
-}
+VersionNumber ExpressionNode::GetIntroductionVersion() const { return 1; }
 
 void ExpressionNode::CollectReferences(IExpressionReferenceCollector&) const {}
 
@@ -54,9 +50,7 @@ Quantity ExpressionNode::EvaluateQuantity(const IExpressionEvaluationEnv& env, c
   return RequireQuantity(Evaluate(env), source);
 }
 
-void ExpressionNode::EnumerateRecursive(const std::function<void(ExpressionNode*)>& visit) {
-  Enumerate(this, visit);
-}
+void ExpressionNode::EnumerateRecursive(const std::function<void(ExpressionNode*)>& visit) { Enumerate(this, visit); }
 
 void ExpressionNode::EnumerateRecursive(const std::function<void(const ExpressionNode*)>& visit) const {
   Enumerate(this, visit);

@@ -55,8 +55,8 @@ class QX_EXPORT ExpressionNode : public EP::SyntaxTreeNode {
   /// Computes the value, evaluating children as needed. Throws an `ExpressionSemanticException` that names the node at
   /// fault.
   virtual ExpressionValue Evaluate(const IExpressionEvaluationEnv& env) const = 0;
-  /// Computes the value as a quantity: the way of arithmetic, which spares the detour over values of any kind. Throws what
-  /// `Evaluate` throws, and for a value that is invalid or no quantity `ExpressionInternalErrorException` or
+  /// Computes the value as a quantity: the way of arithmetic, which spares the detour over values of any kind. Throws
+  /// what `Evaluate` throws, and for a value that is invalid or no quantity `ExpressionInternalErrorException` or
   /// `ExpressionInvalidQuantityType`, naming `source`.
   virtual Quantity EvaluateQuantity(const IExpressionEvaluationEnv& env, const ExpressionNode* source) const;
   /// Renders the node and, through it, its children.

@@ -55,13 +55,6 @@ Quantity RequireQuantity(const ExpressionValue& value, const ExpressionNode* sou
   return value.ConvertToQuantity();
 }
 
-const Quantity& RequireFinite(const Quantity& quantity, const ExpressionNode* source) {
-  if (!quantity.IsUserUndefinedValue() && !IsValidNumber(quantity.GetNumericValue())) [[unlikely]] {
-    throw ExpressionInternalErrorException(source);
-  }
-  return quantity;
-}
-
 ExpressionValue GetExpressionValueFromNode(const IExpressionEvaluationEnv& env, const ExpressionNode* node,
                                            const ExpressionNode* source) {
   ExpressionValue value = node->Evaluate(env);

@@ -2,7 +2,9 @@
 
 #include "Quorix/Export.hpp"
 #include "Quorix/ExpressionNodes/ExpressionNode.hpp"
+#include "Quorix/ExpressionSemanticExceptions.hpp"
 #include "Quorix/Quantity.hpp"
+#include "Quorix/Tolerance.hpp"
 #include "TW/Ref.hpp"
 #include "TW/UniString.hpp"
 
@@ -51,6 +53,11 @@ inline Quantity GetQuantityValueFromNode(const IExpressionEvaluationEnv& env, co
 const ExpressionValue& RequireValid(const ExpressionValue& value, const ExpressionNode* source);
 Quantity RequireQuantity(const ExpressionValue& value, const ExpressionNode* source);
 /// The quantity that a node has computed, which is invalid when it is not finite.
-const Quantity& RequireFinite(const Quantity& quantity, const ExpressionNode* source);
+inline const Quantity& RequireFinite(const Quantity& quantity, const ExpressionNode* source) {
+  if (!quantity.IsUserUndefinedValue() && !IsValidNumber(quantity.GetNumericValue())) [[unlikely]] {
+    throw ExpressionInternalErrorException(source);
+  }
+  return quantity;
+}
 
 }  // namespace QX

@@ -9,9 +9,7 @@ namespace QX {
 TW::ClassInfo ExpressionNumberNode::classInfo("ExpressionNumberNode", "{0F40D778-238F-459B-9366-F4B9DAF6159C}", 1,
                                               &ExpressionNode::classInfo, &ExpressionNumberNode::ConstructorFunction);
 
-TW::Ref<TW::Object> ExpressionNumberNode::ConstructorFunction() {
-  return TW::MakeRef<ExpressionNumberNode>();
-}
+TW::Ref<TW::Object> ExpressionNumberNode::ConstructorFunction() { return TW::MakeRef<ExpressionNumberNode>(); }
 
 ExpressionValue ExpressionNumberNode::Evaluate(const IExpressionEvaluationEnv&) const {
   return ExpressionValue::FromQuantity(Compute());

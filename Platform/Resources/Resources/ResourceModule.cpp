@@ -78,13 +78,9 @@ void CloseResourceFile(int moduleHandle) {
   modules.byHandle.erase(found);
 }
 
-int SetProcessModule(int moduleHandle) {
-  return processModule.exchange(moduleHandle);
-}
+int SetProcessModule(int moduleHandle) { return processModule.exchange(moduleHandle); }
 
-int GetProcessModule() {
-  return processModule;
-}
+int GetProcessModule() { return processModule; }
 
 TW::UniString GetIndString(int listId, int index, int moduleHandle) {
   return FindTextModule(moduleHandle)->Get(GetCurrentLanguage(), listId, index);
