@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 
 #include <array>
+#include <cctype>
 #include <cmath>
 #include <muParser.h>
 #include <string>
@@ -41,8 +42,11 @@ class ArrayHost final : public QX::IExpressionEvaluationEnv {
 // Puts references in the place of the names A, B and C.
 Expression Parse(const std::string& formula) {
   TW::UniString text;
-  for (char character : formula) {
-    if (character >= 'A' && character <= 'C') {
+  for (std::size_t i = 0; i < formula.size(); ++i) {
+    const char character = formula[i];
+    const bool inWord =
+        (i > 0 && std::isalpha(formula[i - 1]) != 0) || (i + 1 < formula.size() && std::isalpha(formula[i + 1]) != 0);
+    if (character >= 'A' && character <= 'C' && !inWord) {
       text += u"[Property:00000000-0000-0000-0000-00000000000";
       text += TW::UniString::FromInteger(character - 'A' + 1);
       text += u"]";
@@ -67,6 +71,11 @@ void Evaluate(benchmark::State& state, const std::string& formula) {
   }
 }
 
+double RoundToDigits(double value, double digits) {
+  const double scale = std::pow(10.0, digits);
+  return std::round(value * scale) / scale;
+}
+
 void EvaluateByMuParser(benchmark::State& state, const std::string& formula) {
   mu::Parser parser;
   double a = 2.0;
@@ -75,6 +84,7 @@ void EvaluateByMuParser(benchmark::State& state, const std::string& formula) {
   parser.DefineVar("A", &a);
   parser.DefineVar("B", &b);
   parser.DefineVar("C", &c);
+  parser.DefineFun("ROUND", RoundToDigits);
   parser.SetExpr(formula);
   parser.Eval();
   for (auto _ : state) {
@@ -88,6 +98,13 @@ const char* const Arithmetic = "(A + B * 2) / (C - 1.5) ^ 2";
 
 BENCHMARK_CAPTURE(Evaluate, Arithmetic, Arithmetic);
 BENCHMARK_CAPTURE(EvaluateByMuParser, Arithmetic, Arithmetic);
+BENCHMARK_CAPTURE(Evaluate, Functions, "ROUND(SQRT(A*A + B*B), 3) + MIN(A, B, C) * MAX(A, B) - ABS(C)");
+BENCHMARK_CAPTURE(EvaluateByMuParser, Functions, "ROUND(sqrt(A*A + B*B), 3) + min(A, B, C) * max(A, B) - abs(C)");
+BENCHMARK_CAPTURE(Evaluate, Conditions, "IF(A > B, IF(C > 0, A, B), C) + IF(A < 10, 1, 2)");
+BENCHMARK_CAPTURE(EvaluateByMuParser, Conditions, "(A > B ? (C > 0 ? A : B) : C) + (A < 10 ? 1 : 2)");
 BENCHMARK_CAPTURE(Evaluate, Units, "2 m * 50 cm + 3 m2");
+BENCHMARK_CAPTURE(
+    Evaluate, Texts,
+    "CONCAT(LEFT(\"concrete\", 3), \"-\", UPPER(MID(\"concrete\", 2, 4)), \"-\", STR(LEN(\"concrete\"), 0))");
 
 }  // namespace
