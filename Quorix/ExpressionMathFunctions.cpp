@@ -72,8 +72,11 @@ double RoundToMultiplier(double x, double multiplier, const RoundingRule& rule) 
 }
 
 double GetValidatedMultiplier(int digits, const ExpressionNode* node) {
+  // As the power function gives them.
+  constexpr double NegativePowersOfTen[] = {1, 1e-1, 1e-2, 1e-3, 1e-4, 1e-5, 1e-6, 1e-7, 1e-8};
   constexpr int MostDigits = 8;
-  const double multiplier = std::pow(10.0, -static_cast<double>(std::min(digits, MostDigits)));
+  if (digits >= 0) return NegativePowersOfTen[std::min(digits, MostDigits)];
+  const double multiplier = std::pow(10.0, -static_cast<double>(digits));
   if (!IsValidNumber(multiplier)) throw ExpressionOutOfDomainOfMathematicalFunction(node);
   return multiplier;
 }

@@ -102,7 +102,7 @@ ExpressionValue ExpressionIfsFunctionNode::EvaluateInternal(const IExpressionEva
 
 ExpressionValue ExpressionIfsFunctionNode::EvaluateUntilFound(const IExpressionEvaluationEnv& env,
                                                               const Arguments& arguments) const {
-  for (std::size_t i = 0; i < arguments.size(); i += 2) {
+  for (unsigned int i = 0; i < arguments.GetCount(); i += 2) {
     bool condition = true;
     const bool defined = GetBooleanValueFromNode(env, arguments[i], this, condition);
     if (!condition) continue;
@@ -110,7 +110,7 @@ ExpressionValue ExpressionIfsFunctionNode::EvaluateUntilFound(const IExpressionE
     if (!defined) value.SetToUserUndefined();
     return value;
   }
-  return Undefined(GetExpressionValueFromNode(env, arguments.back(), this));
+  return Undefined(GetExpressionValueFromNode(env, arguments[arguments.GetCount() - 1], this));
 }
 
 // Every value is evaluated once: were it twice, nested calls would take time exponential in their depth. The first
@@ -120,7 +120,7 @@ ExpressionValue ExpressionIfsFunctionNode::EvaluateAll(const IExpressionEvaluati
   const ExpressionValue first = GetExpressionValueFromNode(env, arguments[1], this);
   ExpressionValue last = first;
   TW::Optional<ExpressionValue> result;
-  for (std::size_t i = 0; i < arguments.size(); i += 2) {
+  for (unsigned int i = 0; i < arguments.GetCount(); i += 2) {
     bool condition = true;
     const bool defined = GetBooleanValueFromNode(env, arguments[i], this, condition);
     if (i > 0) last = GetExpressionValueFromNode(env, arguments[i + 1], this);

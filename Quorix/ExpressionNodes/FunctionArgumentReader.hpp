@@ -3,8 +3,6 @@
 #include "Quorix/ExpressionNodes/ExpressionFunctionNode.hpp"
 #include "TW/UniString.hpp"
 
-#include <cstddef>
-
 namespace QX {
 
 /// Reads the arguments of one call from first to last, and remembers whether all were defined: functions that take
@@ -19,7 +17,7 @@ class FunctionArgumentReader {
                          const ExpressionNode* source)
       : env_(env), arguments_(arguments), source_(source) {}
 
-  bool HasMore() const { return next_ < arguments_.size(); }
+  bool HasMore() const { return next_ < arguments_.GetCount(); }
   bool AllDefined() const { return allDefined_; }
 
   ExpressionValue ReadValue();
@@ -36,9 +34,9 @@ class FunctionArgumentReader {
   Value Read(Reader<Value> read, Value value);
 
   const IExpressionEvaluationEnv& env_;
-  const ExpressionFunctionNode::Arguments& arguments_;
+  ExpressionFunctionNode::Arguments arguments_;
   const ExpressionNode* source_;
-  std::size_t next_ = 0;
+  unsigned int next_ = 0;
   bool allDefined_ = true;
 };
 
