@@ -183,26 +183,16 @@ inline ExpressionValue ExpressionValue::FromBool(UndefinedSelector) noexcept {
 inline ExpressionValue ExpressionValue::FromString(const TW::UniString& text) {
   return FromString(TW::UniString(text));
 }
-inline ExpressionValue ExpressionValue::FromString(TW::UniString&& text) noexcept {
-  return {std::move(text), false};
-}
-inline ExpressionValue ExpressionValue::FromString(UndefinedSelector) noexcept {
-  return {TW::UniString(), true};
-}
+inline ExpressionValue ExpressionValue::FromString(TW::UniString&& text) noexcept { return {std::move(text), false}; }
+inline ExpressionValue ExpressionValue::FromString(UndefinedSelector) noexcept { return {TW::UniString(), true}; }
 inline ExpressionValue ExpressionValue::FromInteger(int value) noexcept {
   ExpressionValue made(Kind::Integer, false);
   made.integer_ = value;
   return made;
 }
-inline ExpressionValue ExpressionValue::FromInteger(UndefinedSelector) noexcept {
-  return {Kind::Integer, true};
-}
-inline ExpressionValue ExpressionValue::FromNumber(double value) noexcept {
-  return {value, UnitExponents(), false};
-}
-inline ExpressionValue ExpressionValue::FromNumber(UndefinedSelector) noexcept {
-  return {0.0, UnitExponents(), true};
-}
+inline ExpressionValue ExpressionValue::FromInteger(UndefinedSelector) noexcept { return {Kind::Integer, true}; }
+inline ExpressionValue ExpressionValue::FromNumber(double value) noexcept { return {value, UnitExponents(), false}; }
+inline ExpressionValue ExpressionValue::FromNumber(UndefinedSelector) noexcept { return {0.0, UnitExponents(), true}; }
 inline ExpressionValue ExpressionValue::FromQuantity(const Quantity& quantity) noexcept {
   return {quantity.GetNumericValue(), quantity.GetUnitExponents(), quantity.IsUserUndefinedValue()};
 }

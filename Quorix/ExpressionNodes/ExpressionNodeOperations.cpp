@@ -48,7 +48,10 @@ const ExpressionValue& RequireValid(const ExpressionValue& value, const Expressi
 }
 
 Quantity RequireQuantity(const ExpressionValue& value, const ExpressionNode* source) {
-  if (!RequireValid(value, source).CanConvertToQuantity()) throw ExpressionInvalidQuantityType(source);
+  if (!value.CanConvertToQuantity()) [[unlikely]] {
+    RequireValid(value, source);
+    throw ExpressionInvalidQuantityType(source);
+  }
   return value.ConvertToQuantity();
 }
 
@@ -57,11 +60,6 @@ ExpressionValue GetExpressionValueFromNode(const IExpressionEvaluationEnv& env, 
   ExpressionValue value = node->Evaluate(env);
   RequireValid(value, source);
   return value;
-}
-
-Quantity GetQuantityValueFromNode(const IExpressionEvaluationEnv& env, const ExpressionNode* node,
-                                  const ExpressionNode* source) {
-  return RequireQuantity(node->Evaluate(env), source);
 }
 
 bool GetStringValueFromNode(const IExpressionEvaluationEnv& env, const ExpressionNode* node,

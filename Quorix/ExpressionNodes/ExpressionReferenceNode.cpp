@@ -1,5 +1,6 @@
 #include "Quorix/ExpressionNodes/ExpressionReferenceNode.hpp"
 
+#include "Quorix/ExpressionNodes/ExpressionNodeOperations.hpp"
 #include "Quorix/ExpressionReferenceFormatUtils.hpp"
 #include "Quorix/ExpressionSemanticExceptions.hpp"
 
@@ -9,10 +10,13 @@ namespace {
 // Whatever the host throws, and for whatever reason, the formula only learns that there is no value.
 ExpressionValue AskHost(const IExpressionEvaluationEnv& env, const TW::Guid& propertyId, const ExpressionNode* source) {
   try {
-    return env.GetPropertyValue(propertyId);
+    ExpressionValue value = env.GetPropertyValue(propertyId);
+    if (value.IsValid()) [[likely]]
+      return value;
   } catch (...) {
     throw ExpressionPropertyEvaluationFailed(source);
   }
+  throw ExpressionPropertyEvaluationFailed(source);
 }
 
 }  // namespace
@@ -29,9 +33,12 @@ TW::Ref<TW::Object> ExpressionPropertyReferenceNode::ConstructorFunction() {
 }
 
 ExpressionValue ExpressionPropertyReferenceNode::Evaluate(const IExpressionEvaluationEnv& env) const {
-  ExpressionValue value = AskHost(env, propertyId_, this);
-  if (!value.IsValid()) throw ExpressionPropertyEvaluationFailed(this);
-  return value;
+  return AskHost(env, propertyId_, this);
+}
+
+Quantity ExpressionPropertyReferenceNode::EvaluateQuantity(const IExpressionEvaluationEnv& env,
+                                                           const ExpressionNode* source) const {
+  return RequireQuantity(AskHost(env, propertyId_, this), source);
 }
 
 void ExpressionPropertyReferenceNode::BuildExpressionString(IExpressionStringBuilder& builder) const {
