@@ -110,6 +110,7 @@ void Expression::Translate(Localization::PoDictionary& dictionary, const TW::Uni
 }
 
 bool Expression::ContainsCycle(const IExpressionReferenceResolver& resolver, TW::Array<TW::Guid>* cyclePath) const {
+  if (!root_) return false;
   PropertyDirectReferenceCollector collector;
   CollectReferencedProperties(collector);
   return FindCycleInReferenceGraph(resolver, collector.GetReferencedProperties(), cyclePath);

@@ -1,10 +1,4 @@
-#include "EP/Parser.hpp"
-#include "Quorix/Expression.hpp"
-#include "Quorix/ExpressionSemanticExceptions.hpp"
-#include "Quorix/ExpressionSyntaxTreeBuilder.hpp"
-#include "Quorix/TestHost.hpp"
-#include "Quorix/Values.hpp"
-#include "TW/MemoryChannel.hpp"
+#include "Quorix/Formulas.hpp"
 
 #include <gtest/gtest.h>
 
@@ -31,45 +25,10 @@ constexpr const char* ReasonNames[] = {
     "UnknownFunction",     "UnknownIdentifier",     "UnknownUnit",      "NumberOutOfRange",
     "TooDeeplyNested"};
 
-std::string RangeText(unsigned int begin, unsigned int end) {
-  return " @" + std::to_string(begin) + ".." + std::to_string(end);
-}
-
-// What became of a formula: a value, or the failure as a line would state it.
-struct Outcome {
-  ExpressionValue value;
-  std::string failure;
-
-  std::string Show() const { return failure.empty() ? testing::PrintToString(value) : failure; }
-};
-
-// The range of a node and of everything below it.
-TW::Range<unsigned int> SpanOf(const QX::ExpressionNode& node, const QX::ExpressionString& text) {
-  TW::Range<unsigned int> span = text.GetNodeRange(&node);
-  node.EnumerateRecursive([&](const QX::ExpressionNode* below) {
-    if (!text.HasNodeRange(below)) return;
-    const TW::Range<unsigned int> range = text.GetNodeRange(below);
-    span = {std::min(span.begin, range.begin), std::max(span.end, range.end)};
-  });
-  return span;
-}
-
-Outcome Evaluate(const Expression& expression, const TestHost& host) {
-  try {
-    return {expression.Evaluate(host), {}};
-  } catch (const QX::ExpressionSemanticException& error) {
-    if (error.GetSource() == nullptr) return {{}, "error without a node"};
-    const TW::Range<unsigned int> span =
-        SpanOf(*error.GetSource(), expression.GetExpressionString(host.GetLocaleSettings()));
-    return {{}, "error " + error.GetName().ToUtf8() + RangeText(span.begin, span.end)};
-  }
-}
-
 // Gives nothing and the failure when the text is no formula.
 std::optional<Expression> Parse(const TW::UniString& text, const TestHost& host, Outcome& outcome) {
-  QX::SyntaxTreeBuilder builder;
   try {
-    return Expression(EP::BoostGenerateSyntaxTree(text, host.GetLocaleSettings(), builder));
+    return ParseFormula(text, host.GetLocaleSettings());
   } catch (const EP::SyntaxErrorException& error) {
     outcome.failure = std::string("syntax ") + ReasonNames[static_cast<unsigned int>(error.GetReason())] +
                       RangeText(error.GetPosition(), error.GetPosition() + error.GetLength());
@@ -85,15 +44,6 @@ bool AreSame(const ExpressionValue& a, const ExpressionValue& b) {
   if (!a.ContainsIntOrNumVariant() || a.IsUserUndefined()) return ExpressionValue::AreEqualByContent(a, b);
   return ExpressionValue::AreEqualByTypeAndUnit(a, b) && !b.IsUserUndefined() &&
          AreNear(a.GetIntOrNumVariantValue(), b.GetIntOrNumVariantValue());
-}
-
-std::optional<Expression> StoreAndRead(const Expression& expression) {
-  TW::MemoryOChannel out;
-  if (expression.Write(out) != TW::NoErr) return std::nullopt;
-  TW::MemoryIChannel in(out.GetBytes());
-  Expression read;
-  if (read.Read(in) != TW::NoErr || in.GetRemaining() != 0) return std::nullopt;
-  return read;
 }
 
 // One file, line by line.
@@ -148,7 +98,7 @@ class CaseFile {
       outcome = Evaluate(*parsed, host_);
       CheckOtherForms(*parsed, outcome);
     }
-    if (!IsAsWanted(outcome, wanted)) Fail(line + "\n  gives " + outcome.Show());
+    if (!IsAsWanted(outcome, wanted)) Fail(line + "\n  gives " + testing::PrintToString(outcome));
   }
 
   // A failure may be wanted without its range.
@@ -169,24 +119,21 @@ class CaseFile {
 
   // The formula read again from its own text, and from its stored form, is the same formula.
   void CheckOtherForms(const Expression& expression, const Outcome& outcome) {
-    const TW::UniString text = expression.GetExpressionString(host_.GetLocaleSettings()).GetFullString();
+    const TW::UniString text = Render(expression, host_.GetLocaleSettings());
     Outcome again;
     const std::optional<Expression> parsed = Parse(text, host_, again);
     if (!parsed) return Fail(text.ToUtf8() + "\n  is no formula again: " + again.failure);
     CheckForm("read again from " + text.ToUtf8(), *parsed, text, outcome);
-    const std::optional<Expression> stored = StoreAndRead(expression);
-    if (!stored) return Fail("cannot be stored and read");
-    CheckForm("stored and read", *stored, text, outcome);
+    Expression stored;
+    if (ReadStored(Store(expression), stored) != TW::NoErr) return Fail("cannot be stored and read");
+    CheckForm("stored and read", stored, text, outcome);
   }
 
   void CheckForm(const std::string& form, const Expression& other, const TW::UniString& text, const Outcome& outcome) {
-    const TW::UniString otherText = other.GetExpressionString(host_.GetLocaleSettings()).GetFullString();
+    const TW::UniString otherText = Render(other, host_.GetLocaleSettings());
     if (otherText != text) Fail(form + "\n  is written " + otherText.ToUtf8());
     const Outcome otherOutcome = Evaluate(other, host_);
-    if (otherOutcome.failure != outcome.failure ||
-        !ExpressionValue::AreEqualByContent(otherOutcome.value, outcome.value)) {
-      Fail(form + "\n  gives " + otherOutcome.Show());
-    }
+    if (!(otherOutcome == outcome)) Fail(form + "\n  gives " + testing::PrintToString(otherOutcome));
   }
 
   std::string path_;
