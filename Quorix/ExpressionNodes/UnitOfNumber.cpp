@@ -1,0 +1,7 @@
+#include "Quorix/ExpressionNodes/UnitOfNumber.hpp"
+
+namespace QX {
+
+UnitOfNumber::UnitOfNumber(TW::UniString marker) : marker_(std::move(marker)), unit_(FindAcceptedUnit(marker_)) {}
+
+}  // namespace QX
