@@ -10,9 +10,7 @@ std::atomic<std::size_t> allocations{0};
 
 }  // namespace
 
-std::size_t GetAllocationCount() {
-  return allocations.load(std::memory_order_relaxed);
-}
+std::size_t GetAllocationCount() { return allocations.load(std::memory_order_relaxed); }
 
 void* operator new(std::size_t size) {
   allocations.fetch_add(1, std::memory_order_relaxed);
@@ -21,9 +19,5 @@ void* operator new(std::size_t size) {
   return memory;
 }
 
-void operator delete(void* memory) noexcept {
-  std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-  std::free(memory);
-}
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }

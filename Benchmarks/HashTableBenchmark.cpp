@@ -86,9 +86,7 @@ Table Filled(const std::vector<typename Table::KeyType>& keys) {
   return table;
 }
 
-void CountItems(benchmark::State& state) {
-  state.SetItemsProcessed(state.iterations() * state.range(0));
-}
+void CountItems(benchmark::State& state) { state.SetItemsProcessed(state.iterations() * state.range(0)); }
 
 template <class Table>
 void Insert(benchmark::State& state) {

@@ -34,9 +34,7 @@ class PlainBuilder final : public EP::ISyntaxTreeBuilder {
   bool IsValidUnitMarker(const TW::UniString&) override { return true; }
 };
 
-TW::UniString MakeArithmetic() {
-  return u"(a + b * 2) / (c - 1.5) ^ 2";
-}
+TW::UniString MakeArithmetic() { return u"(a + b * 2) / (c - 1.5) ^ 2"; }
 
 TW::UniString MakeConditional() {
   return u"IF([Property:1AF5C228-7607-4175-9B78-A1779295614E] > 2.5 m, IF(width >= 100 cm, \"wide\", \"tall\"), "

@@ -41,15 +41,11 @@ bool ConsistsOfExpressionNodes(const ExpressionNode& root) {
 TW::ClassInfo Expression::classInfo("Expression", "{8776168B-0953-4610-8348-E71D9822BC69}", StoredVersion,
                                     &TW::Object::classInfo, &Expression::ConstructorFunction);
 
-TW::Ref<TW::Object> Expression::ConstructorFunction() {
-  return TW::MakeRef<Expression>();
-}
+TW::Ref<TW::Object> Expression::ConstructorFunction() { return TW::MakeRef<Expression>(); }
 
 Expression::~Expression() = default;
 
-Expression::Expression(const Expression& other) : Object(other) {
-  CopyFrom(other);
-}
+Expression::Expression(const Expression& other) : Object(other) { CopyFrom(other); }
 
 Expression& Expression::operator=(const Expression& other) {
   if (this != &other) CopyFrom(other);
@@ -114,6 +110,7 @@ void Expression::Translate(Localization::PoDictionary& dictionary, const TW::Uni
 }
 
 bool Expression::ContainsCycle(const IExpressionReferenceResolver& resolver, TW::Array<TW::Guid>* cyclePath) const {
+  if (!root_) return false;
   PropertyDirectReferenceCollector collector;
   CollectReferencedProperties(collector);
   return FindCycleInReferenceGraph(resolver, collector.GetReferencedProperties(), cyclePath);

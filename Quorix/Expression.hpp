@@ -65,7 +65,7 @@ class QX_EXPORT Expression : public TW::Object {
   void Translate(Localization::PoDictionary& dictionary, const TW::UniString& context);
 
   /// Whether the properties that the formula refers to lead into a cycle; then `cyclePath`, unless it is null, receives
-  /// the way into it, which ends with the property that closes it.
+  /// the way into it, which ends with the property that closes it. Without a tree there is none.
   bool ContainsCycle(const IExpressionReferenceResolver& resolver, TW::Array<TW::Guid>* cyclePath) const;
 
   /// Reads a stored expression in place of this one. A frame of another version is passed over and changes nothing.

@@ -18,6 +18,11 @@ int HeldToLimits(double whole) {
 }  // namespace
 
 bool WholeNumberFromDouble(double x, int& whole) {
+  // Most numbers that should be whole are, and need no rounding.
+  if (std::fabs(x) <= std::numeric_limits<int>::max() && static_cast<int>(x) == x) {
+    whole = static_cast<int>(x);
+    return true;
+  }
   const double rounded = std::round(x);
   const bool isWhole = IsNear(x, rounded);
   whole = isWhole ? HeldToLimits(rounded) : 0;
@@ -67,14 +72,15 @@ double RoundToMultiplier(double x, double multiplier, const RoundingRule& rule) 
 }
 
 double GetValidatedMultiplier(int digits, const ExpressionNode* node) {
+  // As the power function gives them.
+  constexpr double NegativePowersOfTen[] = {1, 1e-1, 1e-2, 1e-3, 1e-4, 1e-5, 1e-6, 1e-7, 1e-8};
   constexpr int MostDigits = 8;
-  const double multiplier = std::pow(10.0, -static_cast<double>(std::min(digits, MostDigits)));
+  if (digits >= 0) return NegativePowersOfTen[std::min(digits, MostDigits)];
+  const double multiplier = std::pow(10.0, -static_cast<double>(digits));
   if (!IsValidNumber(multiplier)) throw ExpressionOutOfDomainOfMathematicalFunction(node);
   return multiplier;
 }
 
-double Sum(const TW::Array<double>& values) {
-  return std::accumulate(values.begin(), values.end(), 0.0);
-}
+double Sum(const TW::Array<double>& values) { return std::accumulate(values.begin(), values.end(), 0.0); }
 
 }  // namespace QX

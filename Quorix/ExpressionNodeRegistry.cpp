@@ -15,13 +15,9 @@ TW::HashSet<char16_t> CollectOperatorCharacters() {
 
 }  // namespace
 
-bool IsValidFunctionChar(const TW::UniChar& character) {
-  return character.IsAlphaNumeric();
-}
+bool IsValidFunctionChar(const TW::UniChar& character) { return character.IsAlphaNumeric(); }
 
-bool IsValidIdentifierChar(const TW::UniChar& character) {
-  return character.IsAlphaNumeric();
-}
+bool IsValidIdentifierChar(const TW::UniChar& character) { return character.IsAlphaNumeric(); }
 
 bool IsValidOperatorChar(const TW::UniChar& character) {
   static const TW::HashSet<char16_t> characters = CollectOperatorCharacters();

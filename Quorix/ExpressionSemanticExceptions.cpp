@@ -13,8 +13,6 @@ constexpr int ErrorMessageList = 106;
 ExpressionSemanticException::ExpressionSemanticException(const ExpressionNode* source)
     : TWException({}, {}, 0, nullptr, TW::ErrRefused), source_(source) {}
 
-TW::UniString ExpressionSemanticException::ToString() const {
-  return GetResourceString(ErrorMessageList, GetResIdx());
-}
+TW::UniString ExpressionSemanticException::ToString() const { return GetResourceString(ErrorMessageList, GetResIdx()); }
 
 }  // namespace QX

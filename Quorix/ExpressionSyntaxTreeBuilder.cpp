@@ -104,9 +104,7 @@ NodeRef SyntaxTreeBuilder::CreateFunctionNode(const TW::UniString& name) {
   return info->CreateNewInstance().DynamicCast<EP::SyntaxTreeNode>();
 }
 
-NodeRef SyntaxTreeBuilder::CreateParenthesizedNode() {
-  return TW::MakeRef<ExpressionParenthesizedNode>();
-}
+NodeRef SyntaxTreeBuilder::CreateParenthesizedNode() { return TW::MakeRef<ExpressionParenthesizedNode>(); }
 
 bool SyntaxTreeBuilder::IsValidUnitMarker(const TW::UniString& marker) {
   return ExpressionValue::FromNumericValueAndUnitMarker(1.0, marker).IsValid();

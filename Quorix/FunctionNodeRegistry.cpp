@@ -10,9 +10,7 @@ constexpr std::u16string_view ResourceListSeparator = u"|";
 
 }  // namespace
 
-TW::UniString NormalizeName(const TW::UniString& name) {
-  return name.ToUpperCase();
-}
+TW::UniString NormalizeName(const TW::UniString& name) { return name.ToUpperCase(); }
 
 FunctionNodeRegistry& GetFunctionNodeRegistry() {
   static FunctionNodeRegistry registry;
@@ -33,9 +31,7 @@ const FunctionImplementionData* FunctionNodeRegistry::Find(const TW::UniString& 
   return functions_.Find(NormalizeName(name));
 }
 
-bool FunctionNodeRegistry::IsExistingFunction(const TW::UniString& name) const {
-  return Find(name) != nullptr;
-}
+bool FunctionNodeRegistry::IsExistingFunction(const TW::UniString& name) const { return Find(name) != nullptr; }
 
 const TW::ClassInfo* FunctionNodeRegistry::GetFunctionNodeClassInfo(const TW::UniString& name) const {
   const FunctionImplementionData* data = Find(name);

@@ -11,9 +11,7 @@ namespace {
 
 constexpr int IdentifierNameList = 108;
 
-TW::UniString KeyOf(std::u16string_view constant) {
-  return NormalizeName(TW::UniString(constant));
-}
+TW::UniString KeyOf(std::u16string_view constant) { return NormalizeName(TW::UniString(constant)); }
 
 }  // namespace
 
@@ -32,9 +30,7 @@ const IdentifierData* IdentitiferNodeRegistry::Find(const TW::UniString& name) c
   return identifiers_.Find(NormalizeName(name));
 }
 
-bool IdentitiferNodeRegistry::IsExistingIdentifier(const TW::UniString& name) const {
-  return Find(name) != nullptr;
-}
+bool IdentitiferNodeRegistry::IsExistingIdentifier(const TW::UniString& name) const { return Find(name) != nullptr; }
 
 ExpressionValue IdentitiferNodeRegistry::GetIdentifierValue(const TW::UniString& name) const {
   const IdentifierData* data = Find(name);

@@ -32,9 +32,7 @@ OperatorNodeRegistry::OperatorNodeRegistry() {
   operators_.Add(TW::UniString(EP::Power), 11);
 }
 
-bool OperatorNodeRegistry::IsExistingOperator(const TW::UniString& op) const {
-  return operators_.Contains(op);
-}
+bool OperatorNodeRegistry::IsExistingOperator(const TW::UniString& op) const { return operators_.Contains(op); }
 
 TW::UniString OperatorNodeRegistry::GetOperatorUIName(const TW::UniString& op) const {
   const short* id = operators_.Find(op);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Quorix/Export.hpp"
+#include "Quorix/Tolerance.hpp"
 #include "Quorix/UnitExponents.hpp"
 
 namespace QX {
@@ -45,9 +46,53 @@ class QX_EXPORT Quantity {
   static bool NthRoot(const Quantity& a, int n, Quantity& result) noexcept;
 
  private:
+  bool IsDefinedZero() const noexcept { return !undefined_ && IsNearZero(value_); }
+  static bool Fail(Quantity& result) noexcept {
+    result = Quantity();
+    return false;
+  }
+
   double value_ = 0.0;
   UnitExponents exponents_;
   bool undefined_ = false;
 };
+
+// What evaluation does at every operator stands here, where callers can see through it.
+
+inline bool Quantity::Add(const Quantity& a, const Quantity& b, Quantity& result) noexcept {
+  if (!UnitExponents::AreAdditive(a.exponents_, b.exponents_)) return Fail(result);
+  const bool undefined = a.undefined_ || b.undefined_;
+  result = undefined ? Quantity(UndefinedSelector(), a.exponents_) : Quantity(a.value_ + b.value_, a.exponents_);
+  return true;
+}
+
+inline bool Quantity::Subtract(const Quantity& a, const Quantity& b, Quantity& result) noexcept {
+  return Add(a, b.undefined_ ? b : Quantity(-b.value_, b.exponents_), result);
+}
+
+inline bool Quantity::Multiply(const Quantity& a, const Quantity& b, Quantity& result) noexcept {
+  const UnitExponents exponents = UnitExponents::Multiply(a.exponents_, b.exponents_);
+  if (!a.undefined_ && !b.undefined_) [[likely]] {
+    result = Quantity(a.value_ * b.value_, exponents);
+  } else if (a.IsDefinedZero() || b.IsDefinedZero()) {
+    result = Quantity(0.0, exponents);
+  } else {
+    result = Quantity(UndefinedSelector(), exponents);
+  }
+  return true;
+}
+
+inline bool Quantity::Divide(const Quantity& a, const Quantity& b, Quantity& result) noexcept {
+  if (b.IsDefinedZero()) return Fail(result);
+  const UnitExponents exponents = UnitExponents::Divide(a.exponents_, b.exponents_);
+  if (!a.undefined_ && !b.undefined_) [[likely]] {
+    result = Quantity(a.value_ / b.value_, exponents);
+  } else if (a.IsDefinedZero()) {
+    result = Quantity(0.0, exponents);
+  } else {
+    result = Quantity(UndefinedSelector(), exponents);
+  }
+  return true;
+}
 
 }  // namespace QX

@@ -9,6 +9,8 @@
 #include "Quorix/ExpressionSemanticExceptions.hpp"
 #include "Quorix/ExpressionSyntaxTreeBuilder.hpp"
 #include "Quorix/ExpressionUnitConverter.hpp"
+#include "Quorix/ExpressionValueToString.hpp"
+#include "Quorix/KeywordFinder.hpp"
 #include "Quorix/LogUtils.hpp"
 #include "Quorix/PropertyDirectReferenceCollector.hpp"
 #include "Quorix/QuorixMain.hpp"

@@ -6,7 +6,6 @@
 #include "TW/UniString.hpp"
 
 #include <array>
-#include <atomic>
 #include <cstdlib>
 #include <cstring>
 #include <string>
@@ -22,7 +21,6 @@ struct ModulePlace {
 };
 
 ModulePlace modulePlace;
-std::atomic<int> resourceModule{NoModule};
 
 template <std::size_t Size>
 bool Keep(const std::string& text, std::array<char, Size>& buffer) {
@@ -40,9 +38,7 @@ void FindModulePlace(const std::string& path) {
 }
 
 // A library that was loaded by a relative path is found only now, before the process changes its folder.
-[[gnu::constructor]] void StartWithTheProcess() {
-  TWInitImage();
-}
+[[gnu::constructor]] void StartWithTheProcess() { TWInitImage(); }
 
 }  // namespace
 
@@ -52,16 +48,14 @@ int TWInitImage() {
   TWTermImage();
   FindModulePlace(path);
   const bool found = modulePlace.folder[0] != '\0';
-  resourceModule = found ? Resources::OpenResourceFile(modulePlace.folder.data()) : NoModule;
+  Resources::SetProcessModule(found ? Resources::OpenResourceFile(modulePlace.folder.data()) : NoModule);
   [[maybe_unused]] static const int registered = std::atexit(TWTermImage);
   return 0;
 }
 
 void TWTermImage() {
-  const int module = resourceModule.exchange(NoModule);
+  const int module = Resources::SetProcessModule(NoModule);
   if (module >= 1) Resources::CloseResourceFile(module);
 }
 
-int QX::GetQuorixResModule() {
-  return resourceModule;
-}
+int QX::GetQuorixResModule() { return Resources::GetProcessModule(); }

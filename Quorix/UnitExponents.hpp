@@ -29,17 +29,30 @@ class QX_EXPORT UnitExponents {
   constexpr int GetLengthExponent() const noexcept { return exponents_[0]; }
   constexpr int GetAngleExponent() const noexcept { return exponents_[1]; }
 
-  friend constexpr bool operator==(const UnitExponents&, const UnitExponents&) noexcept = default;
+  // Spelled out: comparing the arrays calls a function of the C library.
+  friend constexpr bool operator==(const UnitExponents& a, const UnitExponents& b) noexcept {
+    return ((a.exponents_[0] ^ b.exponents_[0]) | (a.exponents_[1] ^ b.exponents_[1])) == 0;
+  }
 
-  static UnitExponents Multiply(const UnitExponents& a, const UnitExponents& b) noexcept;
-  static UnitExponents Divide(const UnitExponents& a, const UnitExponents& b) noexcept;
-  static UnitExponents Power(const UnitExponents& a, int n) noexcept;
+  static constexpr UnitExponents Multiply(const UnitExponents& a, const UnitExponents& b) noexcept {
+    return {Wrap(Bits(a.exponents_[0]) + Bits(b.exponents_[0])), Wrap(Bits(a.exponents_[1]) + Bits(b.exponents_[1]))};
+  }
+  static constexpr UnitExponents Divide(const UnitExponents& a, const UnitExponents& b) noexcept {
+    return {Wrap(Bits(a.exponents_[0]) - Bits(b.exponents_[0])), Wrap(Bits(a.exponents_[1]) - Bits(b.exponents_[1]))};
+  }
+  static constexpr UnitExponents Power(const UnitExponents& a, int n) noexcept {
+    return {Wrap(Bits(a.exponents_[0]) * Bits(n)), Wrap(Bits(a.exponents_[1]) * Bits(n))};
+  }
   /// Divides both exponents by `n`. Gives false and no dimension when `n` is below 1 or a division leaves a remainder.
   static bool NthRoot(const UnitExponents& a, int n, UnitExponents& root) noexcept;
   /// Whether values of the two dimensions can be added, subtracted and compared.
   static constexpr bool AreAdditive(const UnitExponents& a, const UnitExponents& b) noexcept { return a == b; }
 
  private:
+  // Through unsigned numbers, where running over is defined.
+  static constexpr unsigned int Bits(int value) noexcept { return static_cast<unsigned int>(value); }
+  static constexpr int Wrap(unsigned int bits) noexcept { return static_cast<int>(bits); }
+
   TW::FixArray<int, 2> exponents_{};
 };
 

@@ -35,9 +35,7 @@ TW::UniString LengthFormat::NumberToString(double value, TWUnit::UnitMarkerMode 
   return TUConversionResultToString(result, markerMode);
 }
 
-void AreaFormat::WriteCheckSum(IO::MD5Channel& channel) const {
-  WriteUnitData(channel, data_);
-}
+void AreaFormat::WriteCheckSum(IO::MD5Channel& channel) const { WriteUnitData(channel, data_); }
 
 TW::UniString AreaFormat::NumberToString(double value, TWUnit::UnitMarkerMode markerMode,
                                          const TW::UniString& decimalSeparator,
@@ -48,9 +46,7 @@ TW::UniString AreaFormat::NumberToString(double value, TWUnit::UnitMarkerMode ma
   return TUConversionResultToString(result, markerMode);
 }
 
-void VolumeFormat::WriteCheckSum(IO::MD5Channel& channel) const {
-  WriteUnitData(channel, data_);
-}
+void VolumeFormat::WriteCheckSum(IO::MD5Channel& channel) const { WriteUnitData(channel, data_); }
 
 TW::UniString VolumeFormat::NumberToString(double value, TWUnit::UnitMarkerMode markerMode,
                                            const TW::UniString& decimalSeparator,
@@ -61,9 +57,7 @@ TW::UniString VolumeFormat::NumberToString(double value, TWUnit::UnitMarkerMode 
   return TUConversionResultToString(result, markerMode);
 }
 
-void AngleFormat::WriteCheckSum(IO::MD5Channel& channel) const {
-  WriteUnitData(channel, data_);
-}
+void AngleFormat::WriteCheckSum(IO::MD5Channel& channel) const { WriteUnitData(channel, data_); }
 
 TW::UniString AngleFormat::NumberToString(double value, TWUnit::UnitMarkerMode markerMode,
                                           const TW::UniString& decimalSeparator) const {

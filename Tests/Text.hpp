@@ -8,8 +8,6 @@
 
 namespace TW {
 
-inline void PrintTo(const UniString& text, std::ostream* out) {
-  *out << '"' << text.ToUtf8() << '"';
-}
+inline void PrintTo(const UniString& text, std::ostream* out) { *out << '"' << text.ToUtf8() << '"'; }
 
 }  // namespace TW

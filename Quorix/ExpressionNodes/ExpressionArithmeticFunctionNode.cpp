@@ -34,33 +34,42 @@ TW::ClassInfo ExpressionBinaryNonUnitArithmeticFunctionNode::classInfo(
     "ExpressionBinaryNonUnitArithmeticFunctionNode", "{0120C34C-8359-4EB2-A1A5-7582BB77FDF9}", 1,
     &ExpressionBinaryArithmeticFunctionNode::classInfo);
 
-ExpressionValue ExpressionSameDimensionValuesAggregatorFunctionNode::EvaluateInternal(
-    const IExpressionEvaluationEnv& env, const Arguments& arguments) const {
-  UnitExponents exponents;
-  bool allDefined = true;
+ExpressionValue ExpressionQuantityFunctionNode::EvaluateInternal(const IExpressionEvaluationEnv& env,
+                                                                 const Arguments& arguments) const {
+  return ExpressionValue::FromQuantity(Compute(env, arguments));
+}
+
+Quantity ExpressionQuantityFunctionNode::EvaluateQuantity(const IExpressionEvaluationEnv& env,
+                                                          const ExpressionNode* source) const {
+  return RequireFinite(Compute(env, GetValidArguments()), source);
+}
+
+Quantity ExpressionSameDimensionValuesAggregatorFunctionNode::Compute(const IExpressionEvaluationEnv& env,
+                                                                      const Arguments& arguments) const {
+  const Quantity first = GetQuantityValueFromNode(env, arguments[0], this);
+  const UnitExponents exponents = first.GetUnitExponents();
+  bool allDefined = !first.IsUserUndefinedValue();
   TW::Array<double> values;
-  values.reserve(arguments.size());
-  for (std::size_t i = 0; i < arguments.size(); ++i) {
+  values.reserve(arguments.GetCount());
+  values.push_back(first.GetNumericValue());
+  for (unsigned int i = 1; i < arguments.GetCount(); ++i) {
     const Quantity quantity = GetQuantityValueFromNode(env, arguments[i], this);
-    if (i == 0) exponents = quantity.GetUnitExponents();
     if (quantity.GetUnitExponents() != exponents) throw ExpressionIncompatibleArgumentDimensions(this);
     allDefined = allDefined && !quantity.IsUserUndefinedValue();
     values.push_back(quantity.GetNumericValue());
   }
-  if (!allDefined) return ExpressionValue::FromQuantity(ExpressionValue::UndefinedSelector(), exponents);
-  return ExpressionValue::FromQuantity(GetOperationResult(values), exponents);
+  return allDefined ? Quantity(GetOperationResult(values), exponents) : Quantity(Undefined, exponents);
 }
 
-ExpressionValue ExpressionUnaryArithmeticFunctionNode::EvaluateInternal(const IExpressionEvaluationEnv& env,
-                                                                        const Arguments& arguments) const {
-  return ExpressionValue::FromQuantity(GetOperationResult(GetQuantityValueFromNode(env, arguments[0], this)));
+Quantity ExpressionUnaryArithmeticFunctionNode::Compute(const IExpressionEvaluationEnv& env,
+                                                        const Arguments& arguments) const {
+  return GetOperationResult(GetQuantityValueFromNode(env, arguments[0], this));
 }
 
-ExpressionValue ExpressionBinaryArithmeticFunctionNode::EvaluateInternal(const IExpressionEvaluationEnv& env,
-                                                                         const Arguments& arguments) const {
+Quantity ExpressionBinaryArithmeticFunctionNode::Compute(const IExpressionEvaluationEnv& env,
+                                                         const Arguments& arguments) const {
   const Quantity a = GetQuantityValueFromNode(env, arguments[0], this);
-  const Quantity b = GetQuantityValueFromNode(env, arguments[1], this);
-  return ExpressionValue::FromQuantity(GetOperationResult(a, b));
+  return GetOperationResult(a, GetQuantityValueFromNode(env, arguments[1], this));
 }
 
 Quantity ExpressionUnaryAngleArithmeticFunctionNode::GetOperationResult(Quantity quantity) const {

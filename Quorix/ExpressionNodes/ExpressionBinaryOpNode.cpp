@@ -6,23 +6,45 @@
 #include "Quorix/ExpressionSemanticExceptions.hpp"
 #include "TW/Array.hpp"
 
+#include <algorithm>
+
 namespace QX {
 namespace {
 
 using Chain = TW::Array<const ExpressionBinaryOpNode*>;
 
 void RequireTwoOperands(const ExpressionBinaryOpNode* node) {
-  if (node->GetChildCount() != 2) throw ExpressionInvalidArgumentNumber(node);
+  if (node->GetChildCount() != 2) [[unlikely]]
+    throw ExpressionInvalidArgumentNumber(node);
 }
+
+bool IsBinaryOperator(const ExpressionNode* node) { return node->GetKind() != ExpressionNode::Ordinary; }
 
 // The operators from `top` down its left operands; the lowest one's left operand is no operator.
 Chain FollowLeftOperands(const ExpressionBinaryOpNode* top) {
   Chain chain;
-  for (const ExpressionBinaryOpNode* node = top; node != nullptr; node = node->GetChild(0)->AsBinaryOperator()) {
-    RequireTwoOperands(node);
-    chain.push_back(node);
-  }
+  const ExpressionNode* node = top;
+  do {
+    const auto* op = static_cast<const ExpressionBinaryOpNode*>(node);
+    RequireTwoOperands(op);
+    chain.push_back(op);
+    node = op->GetChild(0);
+  } while (IsBinaryOperator(node));
   return chain;
+}
+
+ExpressionValue EvaluateChain(const IExpressionEvaluationEnv& env, const Chain& chain) {
+  ExpressionValue value = chain.back()->GetChild(0)->Evaluate(env);
+  for (auto node = chain.rbegin(); node != chain.rend(); ++node) {
+    value = (*node)->EvaluateInternal(env, value, (*node)->GetChild(1));
+  }
+  return value;
+}
+
+// The quantity behind a value, also one that is invalid because it is not finite.
+Quantity AsComputed(const ExpressionValue& value) {
+  if (value.IsUserUndefined()) return {Quantity::UndefinedSelector(), value.GetUnitExponents()};
+  return {value.GetIntOrNumVariantValue(), value.GetUnitExponents()};
 }
 
 }  // namespace
@@ -51,15 +73,7 @@ TW::ClassInfo ExpressionPowerNode::classInfo("ExpressionPowerNode", "{7A70BCD6-B
                                              &ExpressionPowerNode::ConstructorFunction);
 
 ExpressionValue ExpressionBinaryOpNode::Evaluate(const IExpressionEvaluationEnv& env) const {
-  RequireTwoOperands(this);
-  if (GetChild(0)->AsBinaryOperator() == nullptr) return EvaluateInternal(env, GetChild(0)->Evaluate(env), GetChild(1));
-
-  const Chain chain = FollowLeftOperands(this);
-  ExpressionValue value = chain.back()->GetChild(0)->Evaluate(env);
-  for (auto node = chain.rbegin(); node != chain.rend(); ++node) {
-    value = (*node)->EvaluateInternal(env, value, (*node)->GetChild(1));
-  }
-  return value;
+  return EvaluateChain(env, FollowLeftOperands(this));
 }
 
 void ExpressionBinaryOpNode::BuildExpressionString(IExpressionStringBuilder& builder) const {
@@ -75,19 +89,45 @@ ExpressionValue ExpressionArithmeticBinaryOpNode::EvaluateInternal(const IExpres
                                                                    const ExpressionValue& left,
                                                                    const ExpressionNode* right) const {
   const Quantity a = RequireQuantity(left, this);
-  const Quantity b = GetQuantityValueFromNode(env, right, this);
-  return ExpressionValue::FromQuantity(GetOperationResult(a, b));
+  return ExpressionValue::FromQuantity(GetOperationResult(a, GetQuantityValueFromNode(env, right, this)));
 }
 
-TW::Ref<TW::Object> ExpressionAdditionNode::ConstructorFunction() {
-  return TW::MakeRef<ExpressionAdditionNode>();
+ExpressionValue ExpressionArithmeticBinaryOpNode::Evaluate(const IExpressionEvaluationEnv& env) const {
+  return ExpressionValue::FromQuantity(Compute(env));
 }
 
-TW::UniString ExpressionAdditionNode::GetOperatorSign() const {
-  return TW::UniString(EP::Add);
+Quantity ExpressionArithmeticBinaryOpNode::EvaluateQuantity(const IExpressionEvaluationEnv& env,
+                                                            const ExpressionNode* source) const {
+  return RequireFinite(Compute(env), source);
 }
 
-Quantity ExpressionAdditionNode::GetOperationResult(Quantity left, Quantity right) const {
+Quantity ExpressionArithmeticBinaryOpNode::Compute(const IExpressionEvaluationEnv& env) const {
+  RequireTwoOperands(this);
+  const ExpressionNode* left = GetChild(0);
+  if (IsBinaryOperator(left)) return ComputeChain(env);
+  const Quantity a = GetQuantityValueFromNode(env, left, this);
+  return GetOperationResult(a, GetQuantityValueFromNode(env, GetChild(1), this));
+}
+
+Quantity ExpressionArithmeticBinaryOpNode::ComputeChain(const IExpressionEvaluationEnv& env) const {
+  const Chain chain = FollowLeftOperands(this);
+  const auto isArithmetic = [](const ExpressionNode* node) { return node->GetKind() == ArithmeticOperator; };
+  if (!std::all_of(chain.begin(), chain.end(), isArithmetic)) return AsComputed(EvaluateChain(env, chain));
+
+  Quantity result = GetQuantityValueFromNode(env, chain.back()->GetChild(0), chain.back());
+  for (auto node = chain.rbegin(); node != chain.rend(); ++node) {
+    if (node != chain.rbegin()) RequireFinite(result, *node);
+    const auto* op = static_cast<const ExpressionArithmeticBinaryOpNode*>(*node);
+    result = op->GetOperationResult(result, GetQuantityValueFromNode(env, op->GetChild(1), op));
+  }
+  return result;
+}
+
+TW::Ref<TW::Object> ExpressionAdditionNode::ConstructorFunction() { return TW::MakeRef<ExpressionAdditionNode>(); }
+
+TW::UniString ExpressionAdditionNode::GetOperatorSign() const { return TW::UniString(EP::Add); }
+
+Quantity ExpressionAdditionNode::GetOperationResult(const Quantity& left, const Quantity& right) const {
   Quantity sum;
   if (!Quantity::Add(left, right, sum)) throw ExpressionIncompatibleArgumentDimensions(this);
   return sum;
@@ -97,11 +137,9 @@ TW::Ref<TW::Object> ExpressionSubtractionNode::ConstructorFunction() {
   return TW::MakeRef<ExpressionSubtractionNode>();
 }
 
-TW::UniString ExpressionSubtractionNode::GetOperatorSign() const {
-  return TW::UniString(EP::Subtract);
-}
+TW::UniString ExpressionSubtractionNode::GetOperatorSign() const { return TW::UniString(EP::Subtract); }
 
-Quantity ExpressionSubtractionNode::GetOperationResult(Quantity left, Quantity right) const {
+Quantity ExpressionSubtractionNode::GetOperationResult(const Quantity& left, const Quantity& right) const {
   Quantity difference;
   if (!Quantity::Subtract(left, right, difference)) throw ExpressionIncompatibleArgumentDimensions(this);
   return difference;
@@ -111,39 +149,29 @@ TW::Ref<TW::Object> ExpressionMultiplicationNode::ConstructorFunction() {
   return TW::MakeRef<ExpressionMultiplicationNode>();
 }
 
-TW::UniString ExpressionMultiplicationNode::GetOperatorSign() const {
-  return TW::UniString(EP::Multiply);
-}
+TW::UniString ExpressionMultiplicationNode::GetOperatorSign() const { return TW::UniString(EP::Multiply); }
 
-Quantity ExpressionMultiplicationNode::GetOperationResult(Quantity left, Quantity right) const {
+Quantity ExpressionMultiplicationNode::GetOperationResult(const Quantity& left, const Quantity& right) const {
   Quantity product;
   if (!Quantity::Multiply(left, right, product)) throw ExpressionInternalErrorException(this);
   return product;
 }
 
-TW::Ref<TW::Object> ExpressionDivisionNode::ConstructorFunction() {
-  return TW::MakeRef<ExpressionDivisionNode>();
-}
+TW::Ref<TW::Object> ExpressionDivisionNode::ConstructorFunction() { return TW::MakeRef<ExpressionDivisionNode>(); }
 
-TW::UniString ExpressionDivisionNode::GetOperatorSign() const {
-  return TW::UniString(EP::Divide);
-}
+TW::UniString ExpressionDivisionNode::GetOperatorSign() const { return TW::UniString(EP::Divide); }
 
-Quantity ExpressionDivisionNode::GetOperationResult(Quantity left, Quantity right) const {
+Quantity ExpressionDivisionNode::GetOperationResult(const Quantity& left, const Quantity& right) const {
   Quantity quotient;
   if (!Quantity::Divide(left, right, quotient)) throw ExpressionDivisionByZero(this);
   return quotient;
 }
 
-TW::Ref<TW::Object> ExpressionPowerNode::ConstructorFunction() {
-  return TW::MakeRef<ExpressionPowerNode>();
-}
+TW::Ref<TW::Object> ExpressionPowerNode::ConstructorFunction() { return TW::MakeRef<ExpressionPowerNode>(); }
 
-TW::UniString ExpressionPowerNode::GetOperatorSign() const {
-  return TW::UniString(EP::Power);
-}
+TW::UniString ExpressionPowerNode::GetOperatorSign() const { return TW::UniString(EP::Power); }
 
-Quantity ExpressionPowerNode::GetOperationResult(Quantity left, Quantity right) const {
+Quantity ExpressionPowerNode::GetOperationResult(const Quantity& left, const Quantity& right) const {
   return PowerFuncImpl(left, right, this);
 }
 

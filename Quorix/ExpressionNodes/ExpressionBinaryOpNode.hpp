@@ -14,9 +14,8 @@ class QX_EXPORT ExpressionBinaryOpNode : public ExpressionNode {
 
   /// Throws `ExpressionInvalidArgumentNumber` unless there are exactly two operands, as rendering does. The left
   /// operand is evaluated first, and its errors win.
-  ExpressionValue Evaluate(const IExpressionEvaluationEnv& env) const final;
+  ExpressionValue Evaluate(const IExpressionEvaluationEnv& env) const override;
   void BuildExpressionString(IExpressionStringBuilder& builder) const final;
-  const ExpressionBinaryOpNode* AsBinaryOperator() const final { return this; }
 
   virtual TW::UniString GetOperatorSign() const = 0;
   /// Combines the value of the left operand with the right operand, which it evaluates.
@@ -24,6 +23,8 @@ class QX_EXPORT ExpressionBinaryOpNode : public ExpressionNode {
                                            const ExpressionNode* right) const = 0;
 
  protected:
+  explicit ExpressionBinaryOpNode(Kind kind = OtherBinaryOperator) : ExpressionNode(kind) {}
+
   TW::ErrCode ReadSelf(TW::IChannel& channel) final { return ReadEmptyFrame(channel); }
   TW::ErrCode WriteSelf(TW::OChannel& channel) const final { return WriteEmptyFrame(channel); }
   Nesting GetChildNesting(unsigned int index) const override { return index == 0 ? Nesting::None : Nesting::Aside; }
@@ -35,11 +36,20 @@ class QX_EXPORT ExpressionArithmeticBinaryOpNode : public ExpressionBinaryOpNode
   static TW::ClassInfo classInfo;
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
 
+  ExpressionValue Evaluate(const IExpressionEvaluationEnv& env) const final;
+  Quantity EvaluateQuantity(const IExpressionEvaluationEnv& env, const ExpressionNode* source) const final;
   ExpressionValue EvaluateInternal(const IExpressionEvaluationEnv& env, const ExpressionValue& left,
                                    const ExpressionNode* right) const final;
 
   /// Throws, naming this node, where the operation has no result.
-  virtual Quantity GetOperationResult(Quantity left, Quantity right) const = 0;
+  virtual Quantity GetOperationResult(const Quantity& left, const Quantity& right) const = 0;
+
+ protected:
+  ExpressionArithmeticBinaryOpNode() : ExpressionBinaryOpNode(ArithmeticOperator) {}
+
+ private:
+  Quantity Compute(const IExpressionEvaluationEnv& env) const;
+  Quantity ComputeChain(const IExpressionEvaluationEnv& env) const;
 };
 
 class QX_EXPORT ExpressionAdditionNode final : public ExpressionArithmeticBinaryOpNode {
@@ -48,7 +58,7 @@ class QX_EXPORT ExpressionAdditionNode final : public ExpressionArithmeticBinary
   static TW::Ref<TW::Object> ConstructorFunction();
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
   TW::UniString GetOperatorSign() const override;
-  Quantity GetOperationResult(Quantity left, Quantity right) const override;
+  Quantity GetOperationResult(const Quantity& left, const Quantity& right) const override;
 };
 
 class QX_EXPORT ExpressionSubtractionNode final : public ExpressionArithmeticBinaryOpNode {
@@ -57,7 +67,7 @@ class QX_EXPORT ExpressionSubtractionNode final : public ExpressionArithmeticBin
   static TW::Ref<TW::Object> ConstructorFunction();
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
   TW::UniString GetOperatorSign() const override;
-  Quantity GetOperationResult(Quantity left, Quantity right) const override;
+  Quantity GetOperationResult(const Quantity& left, const Quantity& right) const override;
 };
 
 class QX_EXPORT ExpressionMultiplicationNode final : public ExpressionArithmeticBinaryOpNode {
@@ -66,7 +76,7 @@ class QX_EXPORT ExpressionMultiplicationNode final : public ExpressionArithmetic
   static TW::Ref<TW::Object> ConstructorFunction();
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
   TW::UniString GetOperatorSign() const override;
-  Quantity GetOperationResult(Quantity left, Quantity right) const override;
+  Quantity GetOperationResult(const Quantity& left, const Quantity& right) const override;
 };
 
 class QX_EXPORT ExpressionDivisionNode final : public ExpressionArithmeticBinaryOpNode {
@@ -75,7 +85,7 @@ class QX_EXPORT ExpressionDivisionNode final : public ExpressionArithmeticBinary
   static TW::Ref<TW::Object> ConstructorFunction();
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
   TW::UniString GetOperatorSign() const override;
-  Quantity GetOperationResult(Quantity left, Quantity right) const override;
+  Quantity GetOperationResult(const Quantity& left, const Quantity& right) const override;
 };
 
 /// Raising to a whole power without unit.
@@ -85,7 +95,7 @@ class QX_EXPORT ExpressionPowerNode final : public ExpressionArithmeticBinaryOpN
   static TW::Ref<TW::Object> ConstructorFunction();
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
   TW::UniString GetOperatorSign() const override;
-  Quantity GetOperationResult(Quantity left, Quantity right) const override;
+  Quantity GetOperationResult(const Quantity& left, const Quantity& right) const override;
 
  protected:
   Nesting GetChildNesting(unsigned int index) const override { return index == 0 ? Nesting::None : Nesting::Level; }

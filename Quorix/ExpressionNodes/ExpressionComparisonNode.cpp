@@ -74,74 +74,48 @@ ExpressionValue ExpressionArithmeticComparisonOpNode::EvaluateInternal(const IEx
   return ExpressionValue::FromBool(GetOperationResult(a.GetNumericValue(), b.GetNumericValue()));
 }
 
-TW::Ref<TW::Object> ExpressionLessThanNode::ConstructorFunction() {
-  return TW::MakeRef<ExpressionLessThanNode>();
-}
+TW::Ref<TW::Object> ExpressionLessThanNode::ConstructorFunction() { return TW::MakeRef<ExpressionLessThanNode>(); }
 
-TW::UniString ExpressionLessThanNode::GetOperatorSign() const {
-  return TW::UniString(EP::LessThan);
-}
+TW::UniString ExpressionLessThanNode::GetOperatorSign() const { return TW::UniString(EP::LessThan); }
 
-bool ExpressionLessThanNode::GetOperationResult(double left, double right) const {
-  return IsLess(left, right);
-}
+bool ExpressionLessThanNode::GetOperationResult(double left, double right) const { return IsLess(left, right); }
 
-TW::Ref<TW::Object> ExpressionLessOrEqNode::ConstructorFunction() {
-  return TW::MakeRef<ExpressionLessOrEqNode>();
-}
+TW::Ref<TW::Object> ExpressionLessOrEqNode::ConstructorFunction() { return TW::MakeRef<ExpressionLessOrEqNode>(); }
 
-TW::UniString ExpressionLessOrEqNode::GetOperatorSign() const {
-  return TW::UniString(EP::LessOrEqual);
-}
+TW::UniString ExpressionLessOrEqNode::GetOperatorSign() const { return TW::UniString(EP::LessOrEqual); }
 
-bool ExpressionLessOrEqNode::GetOperationResult(double left, double right) const {
-  return IsLessOrNear(left, right);
-}
+bool ExpressionLessOrEqNode::GetOperationResult(double left, double right) const { return IsLessOrNear(left, right); }
 
 TW::Ref<TW::Object> ExpressionGreaterThanNode::ConstructorFunction() {
   return TW::MakeRef<ExpressionGreaterThanNode>();
 }
 
-TW::UniString ExpressionGreaterThanNode::GetOperatorSign() const {
-  return TW::UniString(EP::GreaterThan);
-}
+TW::UniString ExpressionGreaterThanNode::GetOperatorSign() const { return TW::UniString(EP::GreaterThan); }
 
-bool ExpressionGreaterThanNode::GetOperationResult(double left, double right) const {
-  return IsGreater(left, right);
-}
+bool ExpressionGreaterThanNode::GetOperationResult(double left, double right) const { return IsGreater(left, right); }
 
 TW::Ref<TW::Object> ExpressionGreaterOrEqNode::ConstructorFunction() {
   return TW::MakeRef<ExpressionGreaterOrEqNode>();
 }
 
-TW::UniString ExpressionGreaterOrEqNode::GetOperatorSign() const {
-  return TW::UniString(EP::GreaterOrEqual);
-}
+TW::UniString ExpressionGreaterOrEqNode::GetOperatorSign() const { return TW::UniString(EP::GreaterOrEqual); }
 
 bool ExpressionGreaterOrEqNode::GetOperationResult(double left, double right) const {
   return IsGreaterOrNear(left, right);
 }
 
-TW::Ref<TW::Object> ExpressionEqualNode::ConstructorFunction() {
-  return TW::MakeRef<ExpressionEqualNode>();
-}
+TW::Ref<TW::Object> ExpressionEqualNode::ConstructorFunction() { return TW::MakeRef<ExpressionEqualNode>(); }
 
-TW::UniString ExpressionEqualNode::GetOperatorSign() const {
-  return TW::UniString(EP::Equal);
-}
+TW::UniString ExpressionEqualNode::GetOperatorSign() const { return TW::UniString(EP::Equal); }
 
 ExpressionValue ExpressionEqualNode::EvaluateInternal(const IExpressionEvaluationEnv& env, const ExpressionValue& left,
                                                       const ExpressionNode* right) const {
   return AnswerOf(AreEqualValue(env, left, right, this), Equality::Equal);
 }
 
-TW::Ref<TW::Object> ExpressionNotEqualNode::ConstructorFunction() {
-  return TW::MakeRef<ExpressionNotEqualNode>();
-}
+TW::Ref<TW::Object> ExpressionNotEqualNode::ConstructorFunction() { return TW::MakeRef<ExpressionNotEqualNode>(); }
 
-TW::UniString ExpressionNotEqualNode::GetOperatorSign() const {
-  return TW::UniString(EP::NotEqual);
-}
+TW::UniString ExpressionNotEqualNode::GetOperatorSign() const { return TW::UniString(EP::NotEqual); }
 
 ExpressionValue ExpressionNotEqualNode::EvaluateInternal(const IExpressionEvaluationEnv& env,
                                                          const ExpressionValue& left,

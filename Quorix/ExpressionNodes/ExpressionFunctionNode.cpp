@@ -9,13 +9,14 @@ namespace QX {
 TW::ClassInfo ExpressionFunctionNode::classInfo("ExpressionFunctionNode", "{49A1FBF8-FEF3-400D-A8A8-2BD89A9A3B2B}", 1,
                                                 &ExpressionNode::classInfo);
 
+ExpressionFunctionNode::Arguments ExpressionFunctionNode::GetValidArguments() const {
+  if (!IsValidParameterCount(GetChildCount())) [[unlikely]]
+    throw ExpressionInvalidArgumentNumber(this);
+  return Arguments(this);
+}
+
 ExpressionValue ExpressionFunctionNode::Evaluate(const IExpressionEvaluationEnv& env) const {
-  const unsigned int count = GetChildCount();
-  if (!IsValidParameterCount(count)) throw ExpressionInvalidArgumentNumber(this);
-  Arguments arguments;
-  arguments.reserve(count);
-  for (unsigned int i = 0; i < count; ++i) arguments.push_back(GetChild(i));
-  return EvaluateInternal(env, arguments);
+  return EvaluateInternal(env, GetValidArguments());
 }
 
 void ExpressionFunctionNode::BuildExpressionString(IExpressionStringBuilder& builder) const {

@@ -9,9 +9,7 @@ TW::ClassInfo ExpressionIdentifierNode::classInfo("ExpressionIdentifierNode", "{
                                                   1, &ExpressionNode::classInfo,
                                                   &ExpressionIdentifierNode::ConstructorFunction);
 
-TW::Ref<TW::Object> ExpressionIdentifierNode::ConstructorFunction() {
-  return TW::MakeRef<ExpressionIdentifierNode>();
-}
+TW::Ref<TW::Object> ExpressionIdentifierNode::ConstructorFunction() { return TW::MakeRef<ExpressionIdentifierNode>(); }
 
 bool ExpressionIdentifierNode::IsValidName(const TW::UniString& name) {
   return GetIdentitiferNodeRegistry().IsExistingIdentifier(name);

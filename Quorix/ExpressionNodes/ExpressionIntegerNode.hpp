@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Quorix/ExpressionNodes/ExpressionNode.hpp"
+#include "Quorix/ExpressionNodes/UnitOfNumber.hpp"
 
 namespace QX {
 
@@ -11,11 +12,12 @@ class QX_EXPORT ExpressionIntegerNode final : public ExpressionNode {
   static TW::Ref<TW::Object> ConstructorFunction();
 
   ExpressionIntegerNode() = default;
-  ExpressionIntegerNode(int value, TW::UniString unitMarker) : value_(value), unitMarker_(std::move(unitMarker)) {}
+  ExpressionIntegerNode(int value, TW::UniString unitMarker) : value_(value), unit_(std::move(unitMarker)) {}
 
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
   /// Gives an invalid value for an unknown unit: unlike a number node, it does not throw.
   ExpressionValue Evaluate(const IExpressionEvaluationEnv& env) const override;
+  Quantity EvaluateQuantity(const IExpressionEvaluationEnv& env, const ExpressionNode* source) const override;
   void BuildExpressionString(IExpressionStringBuilder& builder) const override;
 
  protected:
@@ -24,7 +26,7 @@ class QX_EXPORT ExpressionIntegerNode final : public ExpressionNode {
 
  private:
   std::int32_t value_ = 0;
-  TW::UniString unitMarker_;
+  UnitOfNumber unit_;
 };
 
 }  // namespace QX

@@ -1,5 +1,6 @@
 #include "Quorix/ExpressionNodes/ExpressionNode.hpp"
 
+#include "Quorix/ExpressionNodes/ExpressionNodeOperations.hpp"
 #include "TW/Array.hpp"
 
 namespace QX {
@@ -35,13 +36,9 @@ void Enumerate(Node* root, const Visit& visit) {
 TW::ClassInfo ExpressionNode::classInfo("ExpressionNode", "{98E985B1-1B52-4399-87D6-9C2D701CFBBB}", 1,
                                         &EP::SyntaxTreeNode::classInfo);
 
-const TW::ClassInfo* ExpressionNode::GetClassInfo() const {
-  return &classInfo;
-}
+const TW::ClassInfo* ExpressionNode::GetClassInfo() const { return &classInfo; }
 
-VersionNumber ExpressionNode::GetIntroductionVersion() const {
-  return 1;
-}
+VersionNumber ExpressionNode::GetIntroductionVersion() const { return 1; }
 
 void ExpressionNode::CollectReferences(IExpressionReferenceCollector&) const {}
 
@@ -49,13 +46,11 @@ void ExpressionNode::RestorePropertyReferences(const IGuidMapper&) {}
 
 void ExpressionNode::Translate(Localization::PoDictionary&, const TW::UniString&) {}
 
-const ExpressionBinaryOpNode* ExpressionNode::AsBinaryOperator() const {
-  return nullptr;
+Quantity ExpressionNode::EvaluateQuantity(const IExpressionEvaluationEnv& env, const ExpressionNode* source) const {
+  return RequireQuantity(Evaluate(env), source);
 }
 
-void ExpressionNode::EnumerateRecursive(const std::function<void(ExpressionNode*)>& visit) {
-  Enumerate(this, visit);
-}
+void ExpressionNode::EnumerateRecursive(const std::function<void(ExpressionNode*)>& visit) { Enumerate(this, visit); }
 
 void ExpressionNode::EnumerateRecursive(const std::function<void(const ExpressionNode*)>& visit) const {
   Enumerate(this, visit);

@@ -16,7 +16,6 @@
 
 namespace QX {
 
-class ExpressionBinaryOpNode;
 class ExpressionNode;
 
 /// Takes the pieces of a formula's text, in order, each with the node that it comes from.
@@ -39,7 +38,9 @@ class QX_EXPORT IExpressionReferenceCollector {
 class QX_EXPORT ExpressionNode : public EP::SyntaxTreeNode {
  public:
   static TW::ClassInfo classInfo;
-  static constexpr Family ExpressionFamily = 1;
+
+  /// What kind of node of a formula a node of a tree is.
+  enum Kind : Family { Ordinary = 1, ArithmeticOperator = 2, OtherBinaryOperator = 3 };
 
   const TW::ClassInfo* GetClassInfo() const override;
 
@@ -54,6 +55,10 @@ class QX_EXPORT ExpressionNode : public EP::SyntaxTreeNode {
   /// Computes the value, evaluating children as needed. Throws an `ExpressionSemanticException` that names the node at
   /// fault.
   virtual ExpressionValue Evaluate(const IExpressionEvaluationEnv& env) const = 0;
+  /// Computes the value as a quantity: the way of arithmetic, which spares the detour over values of any kind. Throws
+  /// what `Evaluate` throws, and for a value that is invalid or no quantity `ExpressionInternalErrorException` or
+  /// `ExpressionInvalidQuantityType`, naming `source`.
+  virtual Quantity EvaluateQuantity(const IExpressionEvaluationEnv& env, const ExpressionNode* source) const;
   /// Renders the node and, through it, its children.
   virtual void BuildExpressionString(IExpressionStringBuilder& builder) const = 0;
   /// Reports the references of the node itself, not those of its children.
@@ -62,8 +67,7 @@ class QX_EXPORT ExpressionNode : public EP::SyntaxTreeNode {
   virtual void RestorePropertyReferences(const IGuidMapper& mapper);
   /// Translates the texts of the node itself.
   virtual void Translate(Localization::PoDictionary& dictionary, const TW::UniString& context);
-  /// The node as a binary operator, or null. Chains of operators are followed in loops by means of it.
-  virtual const ExpressionBinaryOpNode* AsBinaryOperator() const;
+  Kind GetKind() const { return static_cast<Kind>(GetFamily()); }
 
   /// Visits this node, then everything below it, each node before its children and children in order, to any depth.
   /// What the visitor adds to the node that it visits is visited too. Throws `std::bad_function_call` for an empty
@@ -72,7 +76,7 @@ class QX_EXPORT ExpressionNode : public EP::SyntaxTreeNode {
   void EnumerateRecursive(const std::function<void(const ExpressionNode*)>& visit) const;
 
  protected:
-  ExpressionNode() : SyntaxTreeNode(ExpressionFamily) {}
+  explicit ExpressionNode(Kind kind = Ordinary) : SyntaxTreeNode(kind) {}
 
   /// Writes the frame of the node's class; `writeFields` gives the first failure of the fields of version 1.
   template <class WriteFields>
@@ -87,7 +91,8 @@ class QX_EXPORT ExpressionNode : public EP::SyntaxTreeNode {
 
  private:
   static ExpressionNode* AsExpressionNode(TreeNode* node) {
-    return node != nullptr && node->GetFamily() == ExpressionFamily ? static_cast<ExpressionNode*>(node) : nullptr;
+    const bool isOne = node != nullptr && node->GetFamily() >= Ordinary && node->GetFamily() <= OtherBinaryOperator;
+    return isOne ? static_cast<ExpressionNode*>(node) : nullptr;
   }
 };
 

@@ -42,26 +42,11 @@ void BuildParenthesizedExpressionString(const ExpressionNode* node, IExpressionS
   builder.AppendString(TW::UniString(EP::RightParenthesis), node);
 }
 
-const ExpressionValue& RequireValid(const ExpressionValue& value, const ExpressionNode* source) {
-  if (!value.IsValid()) throw ExpressionInternalErrorException(source);
-  return value;
-}
-
-Quantity RequireQuantity(const ExpressionValue& value, const ExpressionNode* source) {
-  if (!RequireValid(value, source).CanConvertToQuantity()) throw ExpressionInvalidQuantityType(source);
-  return value.ConvertToQuantity();
-}
-
 ExpressionValue GetExpressionValueFromNode(const IExpressionEvaluationEnv& env, const ExpressionNode* node,
                                            const ExpressionNode* source) {
   ExpressionValue value = node->Evaluate(env);
   RequireValid(value, source);
   return value;
-}
-
-Quantity GetQuantityValueFromNode(const IExpressionEvaluationEnv& env, const ExpressionNode* node,
-                                  const ExpressionNode* source) {
-  return RequireQuantity(node->Evaluate(env), source);
 }
 
 bool GetStringValueFromNode(const IExpressionEvaluationEnv& env, const ExpressionNode* node,

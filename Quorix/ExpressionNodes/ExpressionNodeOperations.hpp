@@ -2,7 +2,9 @@
 
 #include "Quorix/Export.hpp"
 #include "Quorix/ExpressionNodes/ExpressionNode.hpp"
+#include "Quorix/ExpressionSemanticExceptions.hpp"
 #include "Quorix/Quantity.hpp"
+#include "Quorix/Tolerance.hpp"
 #include "TW/Ref.hpp"
 #include "TW/UniString.hpp"
 
@@ -42,11 +44,28 @@ bool GetZeroOrPositiveWholeNumberFromNode(const IExpressionEvaluationEnv& env, c
 bool GetPositiveWholeNumberFromNode(const IExpressionEvaluationEnv& env, const ExpressionNode* node,
                                     const ExpressionNode* source, unsigned int& out);
 /// A number with or without unit, or else `ExpressionInvalidQuantityType`.
-Quantity GetQuantityValueFromNode(const IExpressionEvaluationEnv& env, const ExpressionNode* node,
-                                  const ExpressionNode* source);
+inline Quantity GetQuantityValueFromNode(const IExpressionEvaluationEnv& env, const ExpressionNode* node,
+                                         const ExpressionNode* source) {
+  return node->EvaluateQuantity(env, source);
+}
 
 /// The same for a value that is there already.
-const ExpressionValue& RequireValid(const ExpressionValue& value, const ExpressionNode* source);
-Quantity RequireQuantity(const ExpressionValue& value, const ExpressionNode* source);
+inline const ExpressionValue& RequireValid(const ExpressionValue& value, const ExpressionNode* source) {
+  if (!value.IsValid()) [[unlikely]]
+    throw ExpressionInternalErrorException(source);
+  return value;
+}
+inline Quantity RequireQuantity(const ExpressionValue& value, const ExpressionNode* source) {
+  if (!RequireValid(value, source).CanConvertToQuantity()) [[unlikely]]
+    throw ExpressionInvalidQuantityType(source);
+  return value.ConvertToQuantity();
+}
+/// The quantity that a node has computed, which is invalid when it is not finite.
+inline const Quantity& RequireFinite(const Quantity& quantity, const ExpressionNode* source) {
+  if (!quantity.IsUserUndefinedValue() && !IsValidNumber(quantity.GetNumericValue())) [[unlikely]] {
+    throw ExpressionInternalErrorException(source);
+  }
+  return quantity;
+}
 
 }  // namespace QX

@@ -2,6 +2,7 @@
 
 #include "EP/LocalizedNumberString.hpp"
 #include "Quorix/ExpressionNodes/ExpressionNode.hpp"
+#include "Quorix/ExpressionNodes/UnitOfNumber.hpp"
 
 namespace QX {
 
@@ -14,11 +15,12 @@ class QX_EXPORT ExpressionNumberNode final : public ExpressionNode {
   ExpressionNumberNode() = default;
   /// `text` is the number as it was written; it, and not `value`, is what is rendered.
   ExpressionNumberNode(double value, TW::UniString unitMarker, const EP::LocalizedNumberString& text)
-      : value_(value), unitMarker_(std::move(unitMarker)), localizedString_(text) {}
+      : value_(value), unit_(std::move(unitMarker)), localizedString_(text) {}
 
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
   /// Throws `ExpressionInternalErrorException` for an unknown unit.
   ExpressionValue Evaluate(const IExpressionEvaluationEnv& env) const override;
+  Quantity EvaluateQuantity(const IExpressionEvaluationEnv& env, const ExpressionNode* source) const override;
   void BuildExpressionString(IExpressionStringBuilder& builder) const override;
 
  protected:
@@ -26,8 +28,10 @@ class QX_EXPORT ExpressionNumberNode final : public ExpressionNode {
   TW::ErrCode WriteSelf(TW::OChannel& channel) const override;
 
  private:
+  Quantity Compute() const;
+
   double value_ = 0.0;
-  TW::UniString unitMarker_;
+  UnitOfNumber unit_;
   EP::LocalizedNumberString localizedString_;
 };
 

@@ -19,6 +19,12 @@ ExpressionValue ExpressionParenthesizedNode::Evaluate(const IExpressionEvaluatio
   return GetChild(0)->Evaluate(env);
 }
 
+Quantity ExpressionParenthesizedNode::EvaluateQuantity(const IExpressionEvaluationEnv& env,
+                                                       const ExpressionNode* source) const {
+  if (GetChildCount() != 1) throw ExpressionInvalidArgumentNumber(this);
+  return GetChild(0)->EvaluateQuantity(env, source);
+}
+
 void ExpressionParenthesizedNode::BuildExpressionString(IExpressionStringBuilder& builder) const {
   BuildParenthesizedExpressionString(this, builder);
 }

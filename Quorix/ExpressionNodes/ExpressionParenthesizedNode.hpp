@@ -13,6 +13,7 @@ class QX_EXPORT ExpressionParenthesizedNode final : public ExpressionNode {
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
   /// Throws `ExpressionInvalidArgumentNumber` unless there is exactly one operand.
   ExpressionValue Evaluate(const IExpressionEvaluationEnv& env) const override;
+  Quantity EvaluateQuantity(const IExpressionEvaluationEnv& env, const ExpressionNode* source) const override;
   void BuildExpressionString(IExpressionStringBuilder& builder) const override;
 
  protected:

@@ -9,9 +9,7 @@ TW::UniString WithoutLineBreaks(const TW::UniString& text) {
   return text.ReplaceAll(u"\r", u"").ReplaceAll(u"\n", u"");
 }
 
-TW::UniString Escaped(std::u16string_view mark) {
-  return TW::UniString(EP::EscapeChar) + mark;
-}
+TW::UniString Escaped(std::u16string_view mark) { return TW::UniString(EP::EscapeChar) + mark; }
 
 }  // namespace
 

@@ -1,5 +1,6 @@
 #include "Quorix/ExpressionNodes/ExpressionReferenceNode.hpp"
 
+#include "Quorix/ExpressionNodes/ExpressionNodeOperations.hpp"
 #include "Quorix/ExpressionReferenceFormatUtils.hpp"
 #include "Quorix/ExpressionSemanticExceptions.hpp"
 
@@ -7,11 +8,11 @@ namespace QX {
 namespace {
 
 // Whatever the host throws, and for whatever reason, the formula only learns that there is no value.
-ExpressionValue AskHost(const IExpressionEvaluationEnv& env, const TW::Guid& propertyId, const ExpressionNode* source) {
+ExpressionValue AskHost(const IExpressionEvaluationEnv& env, const TW::Guid& propertyId) noexcept {
   try {
     return env.GetPropertyValue(propertyId);
   } catch (...) {
-    throw ExpressionPropertyEvaluationFailed(source);
+    return ExpressionValue::CreateInvalid();
   }
 }
 
@@ -29,9 +30,16 @@ TW::Ref<TW::Object> ExpressionPropertyReferenceNode::ConstructorFunction() {
 }
 
 ExpressionValue ExpressionPropertyReferenceNode::Evaluate(const IExpressionEvaluationEnv& env) const {
-  ExpressionValue value = AskHost(env, propertyId_, this);
+  ExpressionValue value = AskHost(env, propertyId_);
   if (!value.IsValid()) throw ExpressionPropertyEvaluationFailed(this);
   return value;
+}
+
+Quantity ExpressionPropertyReferenceNode::EvaluateQuantity(const IExpressionEvaluationEnv& env,
+                                                           const ExpressionNode* source) const {
+  const ExpressionValue value = AskHost(env, propertyId_);
+  if (!value.IsValid()) throw ExpressionPropertyEvaluationFailed(this);
+  return RequireQuantity(value, source);
 }
 
 void ExpressionPropertyReferenceNode::BuildExpressionString(IExpressionStringBuilder& builder) const {

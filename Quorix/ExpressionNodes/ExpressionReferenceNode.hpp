@@ -24,6 +24,7 @@ class QX_EXPORT ExpressionPropertyReferenceNode final : public ExpressionReferen
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
   /// Throws `ExpressionPropertyEvaluationFailed` when the host has no valid value or throws anything.
   ExpressionValue Evaluate(const IExpressionEvaluationEnv& env) const override;
+  Quantity EvaluateQuantity(const IExpressionEvaluationEnv& env, const ExpressionNode* source) const override;
   void BuildExpressionString(IExpressionStringBuilder& builder) const override;
   void CollectReferences(IExpressionReferenceCollector& collector) const override;
   void RestorePropertyReferences(const IGuidMapper& mapper) override;

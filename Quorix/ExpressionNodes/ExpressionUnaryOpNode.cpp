@@ -40,21 +40,15 @@ TW::Ref<TW::Object> ExpressionPlusUnaryOpNode::ConstructorFunction() {
   return TW::MakeRef<ExpressionPlusUnaryOpNode>();
 }
 
-TW::UniString ExpressionPlusUnaryOpNode::GetOperatorSign() const {
-  return TW::UniString(EP::Plus);
-}
+TW::UniString ExpressionPlusUnaryOpNode::GetOperatorSign() const { return TW::UniString(EP::Plus); }
 
-Quantity ExpressionPlusUnaryOpNode::GetOperationResult(Quantity quantity) const {
-  return quantity;
-}
+Quantity ExpressionPlusUnaryOpNode::GetOperationResult(Quantity quantity) const { return quantity; }
 
 TW::Ref<TW::Object> ExpressionMinusUnaryOpNode::ConstructorFunction() {
   return TW::MakeRef<ExpressionMinusUnaryOpNode>();
 }
 
-TW::UniString ExpressionMinusUnaryOpNode::GetOperatorSign() const {
-  return TW::UniString(EP::Minus);
-}
+TW::UniString ExpressionMinusUnaryOpNode::GetOperatorSign() const { return TW::UniString(EP::Minus); }
 
 Quantity ExpressionMinusUnaryOpNode::GetOperationResult(Quantity quantity) const {
   if (quantity.IsUserUndefinedValue()) return quantity;

@@ -140,7 +140,9 @@ TEST(RoundToMultiplier, RoundsTheMagnitudeWithATouchOfTolerance) {
 }
 
 TEST(GetValidatedMultiplier, CapsAtEightDigits) {
-  EXPECT_EQ(QX::GetValidatedMultiplier(2, nullptr), 0.01);
+  for (int digits = 0; digits <= 8; ++digits) {
+    EXPECT_EQ(QX::GetValidatedMultiplier(digits, nullptr), std::pow(10.0, -digits)) << digits;
+  }
   EXPECT_EQ(QX::GetValidatedMultiplier(12, nullptr), 1e-8);
   EXPECT_EQ(QX::GetValidatedMultiplier(-2, nullptr), 100);
   EXPECT_EQ(QX::GetValidatedMultiplier(-308, nullptr), 1e308);

@@ -17,9 +17,7 @@ constexpr UnitExponents Length = UnitExponents::CreateLength();
 constexpr UnitExponents Area = UnitExponents::CreateArea();
 constexpr UnitExponents Volume = UnitExponents::CreateVolume();
 
-Quantity Undefined(UnitExponents exponents) {
-  return {Quantity::UndefinedSelector(), exponents};
-}
+Quantity Undefined(UnitExponents exponents) { return {Quantity::UndefinedSelector(), exponents}; }
 
 bool AreSame(const Quantity& a, const Quantity& b) {
   return a.IsUserUndefinedValue() == b.IsUserUndefinedValue() && a.GetNumericValue() == b.GetNumericValue() &&

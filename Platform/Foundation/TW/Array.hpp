@@ -7,9 +7,9 @@
 
 namespace TW {
 
-/// How many elements an `Array` holds without the heap: as many as fit into one cache line, at least one.
+/// How many elements an `Array` holds without the heap: eight, and more where they fit into one cache line.
 template <class T>
-inline constexpr std::size_t ArrayInlineCount = std::max<std::size_t>(1, 64 / sizeof(T));
+inline constexpr std::size_t ArrayInlineCount = std::max<std::size_t>(8, 64 / sizeof(T));
 
 /// A growable array whose first elements live in place, so that the operands of a usual call need no heap.
 template <class T>

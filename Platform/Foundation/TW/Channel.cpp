@@ -61,27 +61,13 @@ ErrCode OChannel::WriteBytes(const void* bytes, std::size_t count) {
   return NoErr;
 }
 
-ErrCode OChannel::WriteBool(bool value) {
-  return WriteNumber(*this, static_cast<std::uint8_t>(value ? 1 : 0));
-}
-ErrCode OChannel::WriteUInt16(std::uint16_t value) {
-  return WriteNumber(*this, value);
-}
-ErrCode OChannel::WriteInt32(std::int32_t value) {
-  return WriteNumber(*this, static_cast<std::uint32_t>(value));
-}
-ErrCode OChannel::WriteUInt32(std::uint32_t value) {
-  return WriteNumber(*this, value);
-}
-ErrCode OChannel::WriteUInt64(std::uint64_t value) {
-  return WriteNumber(*this, value);
-}
-ErrCode OChannel::WriteDouble(double value) {
-  return WriteNumber(*this, std::bit_cast<std::uint64_t>(value));
-}
-ErrCode OChannel::WriteGuid(const Guid& guid) {
-  return WriteBytes(guid.GetBytes().data(), guid.GetBytes().size());
-}
+ErrCode OChannel::WriteBool(bool value) { return WriteNumber(*this, static_cast<std::uint8_t>(value ? 1 : 0)); }
+ErrCode OChannel::WriteUInt16(std::uint16_t value) { return WriteNumber(*this, value); }
+ErrCode OChannel::WriteInt32(std::int32_t value) { return WriteNumber(*this, static_cast<std::uint32_t>(value)); }
+ErrCode OChannel::WriteUInt32(std::uint32_t value) { return WriteNumber(*this, value); }
+ErrCode OChannel::WriteUInt64(std::uint64_t value) { return WriteNumber(*this, value); }
+ErrCode OChannel::WriteDouble(double value) { return WriteNumber(*this, std::bit_cast<std::uint64_t>(value)); }
+ErrCode OChannel::WriteGuid(const Guid& guid) { return WriteBytes(guid.GetBytes().data(), guid.GetBytes().size()); }
 
 ErrCode OChannel::WriteString(const UniString& text) {
   WriteUInt32(text.GetLength());
@@ -172,15 +158,9 @@ ErrCode IChannel::ReadDouble(double& value) {
   return error;
 }
 
-ErrCode IChannel::ReadUInt16(std::uint16_t& value) {
-  return ReadNumber(*this, value);
-}
-ErrCode IChannel::ReadUInt32(std::uint32_t& value) {
-  return ReadNumber(*this, value);
-}
-ErrCode IChannel::ReadUInt64(std::uint64_t& value) {
-  return ReadNumber(*this, value);
-}
+ErrCode IChannel::ReadUInt16(std::uint16_t& value) { return ReadNumber(*this, value); }
+ErrCode IChannel::ReadUInt32(std::uint32_t& value) { return ReadNumber(*this, value); }
+ErrCode IChannel::ReadUInt64(std::uint64_t& value) { return ReadNumber(*this, value); }
 
 ErrCode IChannel::ReadGuid(Guid& guid) {
   Guid::Bytes bytes;

@@ -11,9 +11,7 @@ ClassInfo::ClassInfo(std::string_view name, std::string_view guid, unsigned shor
   ClassManager::Register(*this);
 }
 
-ClassInfo::~ClassInfo() {
-  ClassManager::Unregister(*this);
-}
+ClassInfo::~ClassInfo() { ClassManager::Unregister(*this); }
 
 bool ClassInfo::IsCompatibleWith(const ClassInfo& other) const {
   for (const ClassInfo* info = this; info != nullptr; info = info->base_) {
@@ -22,8 +20,6 @@ bool ClassInfo::IsCompatibleWith(const ClassInfo& other) const {
   return false;
 }
 
-Ref<Object> ClassInfo::CreateNewInstance() const {
-  return construct_ != nullptr ? construct_() : Ref<Object>();
-}
+Ref<Object> ClassInfo::CreateNewInstance() const { return construct_ != nullptr ? construct_() : Ref<Object>(); }
 
 }  // namespace TW

@@ -15,9 +15,7 @@ ClassTable& GetClasses() {
 
 }  // namespace
 
-void ClassManager::Register(const ClassInfo& info) {
-  GetClasses().Add(info.GetGuid(), &info);
-}
+void ClassManager::Register(const ClassInfo& info) { GetClasses().Add(info.GetGuid(), &info); }
 
 void ClassManager::Unregister(const ClassInfo& info) {
   if (Find(info.GetGuid()) == &info) GetClasses().Remove(info.GetGuid());

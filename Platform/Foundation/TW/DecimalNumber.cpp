@@ -12,9 +12,7 @@ struct DecimalShape {
   bool leadingDigitIsHigh = false;  ///< the first digit that is not zero stands for ones or more
 };
 
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 // The value of an exponent's digits, held where no count of other digits can outweigh it.
 long long ReadExponent(std::string_view digits) {

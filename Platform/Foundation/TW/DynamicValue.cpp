@@ -40,12 +40,8 @@ UniString NumValue::GetContentText(const DynamicValueConversionRules& rules) con
   return GetNumberText(Get(), rules);
 }
 
-UniString StringValue::GetContentText(const DynamicValueConversionRules&) const {
-  return Get();
-}
+UniString StringValue::GetContentText(const DynamicValueConversionRules&) const { return Get(); }
 
-UniString BoolValue::GetContentText(const DynamicValueConversionRules&) const {
-  return Get() ? u"TRUE" : u"FALSE";
-}
+UniString BoolValue::GetContentText(const DynamicValueConversionRules&) const { return Get() ? u"TRUE" : u"FALSE"; }
 
 }  // namespace TW

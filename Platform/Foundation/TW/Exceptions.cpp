@@ -28,9 +28,7 @@ TW::UniString TWException::GetName() const {
   return TW::UniString::FromUtf8(name);
 }
 
-std::unique_ptr<TWException> TWException::Clone() const {
-  return std::make_unique<TWException>(*this);
-}
+std::unique_ptr<TWException> TWException::Clone() const { return std::make_unique<TWException>(*this); }
 
 void TWException::Print(TW::OChannel& channel) const {
   const TW::UniString line = TW::UniString::Printf(u"%T (%T)%T%T\n", GetName(), TW::UniString::FromInteger(errorCode_),

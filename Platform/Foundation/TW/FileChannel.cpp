@@ -31,9 +31,7 @@ FileOChannel::FileOChannel(const std::string& path) : file_(std::fopen(path.c_st
   if (file_ == nullptr) SetStatus(ErrorOfSystem(ErrWriteFailed));
 }
 
-FileOChannel::~FileOChannel() {
-  Close();
-}
+FileOChannel::~FileOChannel() { Close(); }
 
 ErrCode FileOChannel::Close() {
   if (file_ == nullptr) return GetOutputStatus();

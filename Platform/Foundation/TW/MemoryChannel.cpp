@@ -5,9 +5,7 @@
 
 namespace TW {
 
-std::vector<std::byte> MemoryOChannel::TakeBytes() {
-  return std::exchange(bytes_, {});
-}
+std::vector<std::byte> MemoryOChannel::TakeBytes() { return std::exchange(bytes_, {}); }
 
 ErrCode MemoryOChannel::WriteRaw(const void* bytes, std::size_t count) {
   const auto* first = static_cast<const std::byte*>(bytes);

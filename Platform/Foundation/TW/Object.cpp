@@ -11,9 +11,7 @@ ClassInfo Object::classInfo("Object", "{3BD1D04C-27E9-4C2E-9B5B-6B2F0F5F4E11}", 
 
 Object::~Object() = default;
 
-const ClassInfo* Object::GetClassInfo() const {
-  return &classInfo;
-}
+const ClassInfo* Object::GetClassInfo() const { return &classInfo; }
 
 ErrCode Object::Validate(const ObjectState& state, bool* valid) const {
   if (valid != nullptr) *valid = state.classGuid == GetClassInfo()->GetGuid();
@@ -64,8 +62,6 @@ ErrCode Object::Print(OChannel& channel) const {
   return channel.WriteBytes(line.data(), line.size());
 }
 
-ErrCode Object::CheckState() const {
-  return NoErr;
-}
+ErrCode Object::CheckState() const { return NoErr; }
 
 }  // namespace TW

@@ -72,14 +72,8 @@ SystemSymbols ReadSystemSymbols(const char* localeName) {
   return symbols;
 }
 
-unsigned short GetDecimalSymbol() {
-  return ReadSystemSymbols(GetEnvironmentLocale()).decimal;
-}
-unsigned short GetListSeparatorSymbol() {
-  return ReadSystemSymbols(GetEnvironmentLocale()).listSeparator;
-}
-unsigned short GetDigitGroupingSymbol() {
-  return ReadSystemSymbols(GetEnvironmentLocale()).digitGrouping;
-}
+unsigned short GetDecimalSymbol() { return ReadSystemSymbols(GetEnvironmentLocale()).decimal; }
+unsigned short GetListSeparatorSymbol() { return ReadSystemSymbols(GetEnvironmentLocale()).listSeparator; }
+unsigned short GetDigitGroupingSymbol() { return ReadSystemSymbols(GetEnvironmentLocale()).digitGrouping; }
 
 }  // namespace TW

@@ -10,15 +10,11 @@ namespace TW {
 
 ClassInfo TreeNode::classInfo("TreeNode", "{5D0C9B39-5C1A-4E6F-8E0C-2B3A7D1F9C64}", 1, &Object::classInfo);
 
-const ClassInfo* TreeNode::GetClassInfo() const {
-  return &classInfo;
-}
+const ClassInfo* TreeNode::GetClassInfo() const { return &classInfo; }
 
 TreeNode::Nesting TreeNode::GetChildNesting(unsigned int) const { return Nesting::Level; }
 
-TreeNode::~TreeNode() {
-  DestroyChildren();
-}
+TreeNode::~TreeNode() { DestroyChildren(); }
 
 void TreeNode::AddChild(Ref<TreeNode> child) {
   if (!child) throw NullReferenceException();

@@ -51,9 +51,7 @@ TW::UniString DecodeWith(UConverter* converter, std::string_view bytes) {
 
 }  // namespace
 
-void CharacterSet::Closer::operator()(UConverter* converter) const {
-  ucnv_close(converter);
-}
+void CharacterSet::Closer::operator()(UConverter* converter) const { ucnv_close(converter); }
 
 TW::ErrCode CharacterSet::ChooseByHeader(std::string_view header) {
   const std::string name = FindName(header);

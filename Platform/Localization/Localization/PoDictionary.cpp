@@ -34,13 +34,9 @@ std::size_t PoDictionary::KeyHash::operator()(const KeyView& key) const noexcept
   return hash(key.context) * Odd + hash(key.text);
 }
 
-TW::ErrCode PoDictionary::ReadPo(std::string_view bytes) {
-  return Read(bytes, ReadPoCatalog);
-}
+TW::ErrCode PoDictionary::ReadPo(std::string_view bytes) { return Read(bytes, ReadPoCatalog); }
 
-TW::ErrCode PoDictionary::ReadMo(std::string_view bytes) {
-  return Read(bytes, ReadMoCatalog);
-}
+TW::ErrCode PoDictionary::ReadMo(std::string_view bytes) { return Read(bytes, ReadMoCatalog); }
 
 TW::ErrCode PoDictionary::ReadFile(const std::string& path) {
   std::string bytes;

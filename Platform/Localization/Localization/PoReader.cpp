@@ -11,9 +11,7 @@ namespace {
 constexpr std::string_view Blanks = " \t\r\f\v";
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
-void SkipBlanks(std::string_view& rest) {
-  rest.remove_prefix(std::min(rest.find_first_not_of(Blanks), rest.size()));
-}
+void SkipBlanks(std::string_view& rest) { rest.remove_prefix(std::min(rest.find_first_not_of(Blanks), rest.size())); }
 
 // Takes the number that up to so many digits at the front of `rest` make.
 bool TakeNumber(std::string_view& rest, std::size_t digits, int base, unsigned int& number) {

@@ -51,15 +51,9 @@ inline CharacterClass Classify(char16_t unit) {
   return unit < AsciiCount ? AsciiClasses[unit] : ClassifyBeyondAscii(unit);
 }
 
-inline bool IsBlank(char16_t unit) {
-  return Classify(unit) == CharacterClass::Blank;
-}
-inline bool IsDigit(char16_t unit) {
-  return unit >= u'0' && unit <= u'9';
-}
-inline bool IsLetter(char16_t unit) {
-  return Classify(unit) == CharacterClass::Letter;
-}
+inline bool IsBlank(char16_t unit) { return Classify(unit) == CharacterClass::Blank; }
+inline bool IsDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
+inline bool IsLetter(char16_t unit) { return Classify(unit) == CharacterClass::Letter; }
 inline bool IsAlphaNumeric(char16_t unit) {
   const CharacterClass what = Classify(unit);
   return what >= CharacterClass::Digit && what <= CharacterClass::Letter;

@@ -10,9 +10,7 @@ namespace {
 
 constexpr char16_t Escape = EscapeChar.front();
 
-bool IsEscaped(char16_t unit, char16_t mark) {
-  return unit == Escape || unit == mark;
-}
+bool IsEscaped(char16_t unit, char16_t mark) { return unit == Escape || unit == mark; }
 
 // Whether an escape and what it escapes begin at `position`.
 bool StartsEscape(std::u16string_view text, std::size_t position, char16_t mark) {

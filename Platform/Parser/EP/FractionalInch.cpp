@@ -6,13 +6,9 @@
 
 namespace EP {
 
-bool FractionalInch::IsWithinLimit() const {
-  return std::max({whole_, numerator_, denominator_}) < Limit;
-}
+bool FractionalInch::IsWithinLimit() const { return std::max({whole_, numerator_, denominator_}) < Limit; }
 
-bool FractionalInch::IsValid() const {
-  return IsWithinLimit() && numerator_ < denominator_;
-}
+bool FractionalInch::IsValid() const { return IsWithinLimit() && numerator_ < denominator_; }
 
 double FractionalInch::GetValueInInches() const {
   const double fraction = denominator_ == 0 ? 0.0 : static_cast<double>(numerator_) / denominator_;

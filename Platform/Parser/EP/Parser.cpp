@@ -12,15 +12,11 @@ namespace {
 // What a node on the stack is, in the order in which operators bind, loosest first.
 enum class Binding : unsigned char { Parenthesis, Call, Comparison, Additive, Multiplicative, Prefix, Power };
 
-constexpr bool IsBracket(Binding binding) {
-  return binding <= Binding::Call;
-}
+constexpr bool IsBracket(Binding binding) { return binding <= Binding::Call; }
 
 // Whether such a node, as long as it is open, is one level of nesting. A row of the other operators never holds more
 // than one of each open.
-constexpr bool IsNestingLevel(Binding binding) {
-  return IsBracket(binding) || binding >= Binding::Prefix;
-}
+constexpr bool IsNestingLevel(Binding binding) { return IsBracket(binding) || binding >= Binding::Prefix; }
 
 Binding GetBinding(std::u16string_view sign) {
   switch (sign.front()) {

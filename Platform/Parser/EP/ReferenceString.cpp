@@ -19,9 +19,7 @@ std::size_t SkipType(std::u16string_view text, std::size_t position) {
   return position;
 }
 
-bool IsType(std::u16string_view type) {
-  return !type.empty() && SkipType(type, 0) == type.size();
-}
+bool IsType(std::u16string_view type) { return !type.empty() && SkipType(type, 0) == type.size(); }
 
 // Looks at a text that has to be a reference from its beginning to its end.
 ReferenceScan ScanWhole(std::u16string_view text) {

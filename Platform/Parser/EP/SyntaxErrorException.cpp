@@ -1,9 +1,12 @@
 #include "EP/SyntaxErrorException.hpp"
 
+#include "Resources/ResourceModule.hpp"
 #include "TW/ErrorCodes.hpp"
 
 namespace EP {
 namespace {
+
+constexpr int SyntaxMessageList = 109;
 
 const char16_t* GetPhrase(SyntaxErrorReason reason) {
   switch (reason) {
@@ -43,5 +46,9 @@ SyntaxErrorException::SyntaxErrorException(SyntaxErrorReason reason, TW::Range<u
     : TWException(GetPhrase(reason), {}, 0, nullptr, TW::ErrRefused), reason_(reason), place_(place) {}
 
 SyntaxErrorException::~SyntaxErrorException() = default;
+
+TW::UniString SyntaxErrorException::ToString() const {
+  return Resources::GetIndString(SyntaxMessageList, static_cast<int>(reason_) + 1, Resources::GetProcessModule());
+}
 
 }  // namespace EP

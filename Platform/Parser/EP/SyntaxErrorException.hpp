@@ -3,10 +3,11 @@
 #include "EP/Export.hpp"
 #include "TW/Exceptions.hpp"
 #include "TW/Range.hpp"
+#include "TW/UniString.hpp"
 
 namespace EP {
 
-/// Why a text is no formula.
+/// Why a text is no formula. The order is that of the messages in string list 109.
 enum class SyntaxErrorReason {
   UnexpectedCharacter,  ///< a character that begins no element, or an element where none can stand
   UnexpectedEnd,        ///< the text ends where an operand must follow
@@ -23,7 +24,8 @@ enum class SyntaxErrorReason {
   TooDeeplyNested,             ///< the element opens more than `MaximumNestingDepth` levels
 };
 
-/// The text is no formula. Says why, and where, in 16-bit code units of the text that was given.
+/// The text is no formula. Says why, and where, in 16-bit code units of the text that was given. `ToString` tells the
+/// user, in sentences; `what` the programmer, in English.
 class EP_EXPORT SyntaxErrorException : public TWException {
  public:
   SyntaxErrorException(SyntaxErrorReason reason, TW::Range<unsigned int> place);
@@ -33,6 +35,8 @@ class EP_EXPORT SyntaxErrorException : public TWException {
   unsigned int GetPosition() const { return place_.begin; }
   /// 0 when the fault is that the text ends.
   unsigned int GetLength() const { return place_.GetLength(); }
+  /// What is wrong and what to do about it, in the user's language. Texts come from the resource file of the process.
+  TW::UniString ToString() const;
 
   /// Says where the fault lies when whoever threw could not know.
   void SetPlace(TW::Range<unsigned int> place) { place_ = place; }

@@ -7,8 +7,6 @@ TW::ClassInfo SyntaxTreeNode::classInfo("SyntaxTreeNode", "{82AF3E97-212B-44E5-A
 
 SyntaxTreeNode::~SyntaxTreeNode() = default;
 
-const TW::ClassInfo* SyntaxTreeNode::GetClassInfo() const {
-  return &classInfo;
-}
+const TW::ClassInfo* SyntaxTreeNode::GetClassInfo() const { return &classInfo; }
 
 }  // namespace EP

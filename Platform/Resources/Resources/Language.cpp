@@ -26,9 +26,7 @@ void SetLanguage(std::string_view tag) {
   currentLanguage.store(LanguageCode::FromTag(tag).GetBits(), std::memory_order_relaxed);
 }
 
-std::string GetLanguage() {
-  return GetCurrentLanguage().GetTag();
-}
+std::string GetLanguage() { return GetCurrentLanguage().GetTag(); }
 
 std::string GetLanguageOfEnvironment(const char* lcAll, const char* lcMessages, const char* lang) {
   return GetCodeOfEnvironment(lcAll, lcMessages, lang).GetTag();

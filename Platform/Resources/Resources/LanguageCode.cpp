@@ -24,15 +24,9 @@ constexpr std::size_t MaximumTagLength = 100;
 constexpr std::size_t MaximumSubtagLength = 8;
 
 // The classes of <cctype> depend on the locale.
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-bool IsLetter(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-bool IsLetterOrDigit(char c) {
-  return IsLetter(c) || IsDigit(c);
-}
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+bool IsLetterOrDigit(char c) { return IsLetter(c) || IsDigit(c); }
 bool MayFollowSubtags(char c) {
   return IsLetterOrDigit(c) || std::string_view("-_=;:.@").find(c) != std::string_view::npos;
 }

@@ -4,6 +4,7 @@
 #include "Resources/LanguageCode.hpp"
 #include "Resources/TextModule.hpp"
 
+#include <atomic>
 #include <filesystem>
 #include <limits>
 #include <map>
@@ -17,6 +18,10 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* DefaultFileName = "Quorix.dat";
+constexpr int NoModule = -1;
+
+// Set while the library is loaded, before objects that are made by code.
+constinit std::atomic<int> processModule{NoModule};
 
 struct Modules {
   std::mutex mutex;
@@ -53,12 +58,12 @@ std::shared_ptr<const TextModule> FindTextModule(int moduleHandle) {
 
 int OpenResourceFile(const std::string& path) {
   std::string file = FindFile(path);
-  if (file.empty()) return -1;
+  if (file.empty()) return NoModule;
   auto module = std::make_shared<const TextModule>(std::move(file));
   Modules& modules = GetModules();
   const std::lock_guard lock(modules.mutex);
   // Handles are not used again, so that a stale one never reaches another file.
-  if (modules.lastHandle == std::numeric_limits<int>::max()) return -1;
+  if (modules.lastHandle == std::numeric_limits<int>::max()) return NoModule;
   modules.byHandle.emplace(modules.lastHandle + 1, std::move(module));
   return ++modules.lastHandle;
 }
@@ -72,6 +77,10 @@ void CloseResourceFile(int moduleHandle) {
   closed = std::move(found->second);
   modules.byHandle.erase(found);
 }
+
+int SetProcessModule(int moduleHandle) { return processModule.exchange(moduleHandle); }
+
+int GetProcessModule() { return processModule; }
 
 TW::UniString GetIndString(int listId, int index, int moduleHandle) {
   return FindTextModule(moduleHandle)->Get(GetCurrentLanguage(), listId, index);

@@ -22,6 +22,13 @@ RESOURCES_EXPORT int OpenResourceFile(const std::string& path);
 /// until it ends. Any other handle is ignored.
 RESOURCES_EXPORT void CloseResourceFile(int moduleHandle);
 
+/// Makes the file under a handle the one from which the library itself takes its texts; any handle below 1 means that
+/// there is none. Gives the handle that was set before. The library does this when it starts and ends.
+RESOURCES_EXPORT int SetProcessModule(int moduleHandle);
+
+/// The handle that was set last, and at first -1.
+RESOURCES_EXPORT int GetProcessModule();
+
 /// The text at `index` of list `listId` in the language of the process; empty when there is none. A handle under which
 /// no file is open gives the built-in texts.
 RESOURCES_EXPORT TW::UniString GetIndString(int listId, int index, int moduleHandle);

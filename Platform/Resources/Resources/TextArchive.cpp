@@ -35,9 +35,7 @@ bool Register(SealedArchive archive, const std::string& packageName) {
   return U_SUCCESS(error) != 0;
 }
 
-std::string GetListKey(int listId) {
-  return "L" + std::to_string(listId);
-}
+std::string GetListKey(int listId) { return "L" + std::to_string(listId); }
 
 // The list id of a key such as L106; 0 for any other key.
 int ReadListKey(const char* key) {

@@ -2,9 +2,7 @@
 
 namespace {
 
-bool IsAbsent(const TW::UniString& text) {
-  return text.IsEmpty() || (text.GetLength() == 1 && text[0] == u'\0');
-}
+bool IsAbsent(const TW::UniString& text) { return text.IsEmpty() || (text.GetLength() == 1 && text[0] == u'\0'); }
 
 }  // namespace
 
