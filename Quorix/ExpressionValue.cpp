@@ -38,16 +38,16 @@ std::unique_ptr<TW::DynamicValue> ExpressionValue::CloneContainedVariant() const
     case Kind::Invalid:
       return nullptr;
     case Kind::Logical:
-      variant = std::make_unique<TW::BoolValue>(logical_);
+      variant = std::make_unique<TW::BoolValue>(bits_ != 0);
       break;
     case Kind::Text:
       variant = std::make_unique<TW::StringValue>(text_);
       break;
     case Kind::Integer:
-      variant = std::make_unique<TW::IntValue>(integer_);
+      variant = std::make_unique<TW::IntValue>(GetInteger());
       break;
     case Kind::Number:
-      variant = std::make_unique<TW::NumValue>(number_);
+      variant = std::make_unique<TW::NumValue>(GetNumber());
       break;
   }
   if (undefined_) variant->SetStatus(TW::DynamicValue::Status::UserUndefined);
@@ -84,7 +84,7 @@ bool ExpressionValue::AreEqualByContent(const ExpressionValue& a, const Expressi
   if (!a.IsValid() || !b.IsValid()) return a.IsValid() == b.IsValid();
   if (a.undefined_ != b.undefined_ || !AreEqualByTypeAndUnit(a, b)) return false;
   if (a.undefined_) return true;
-  if (a.IsBool()) return a.logical_ == b.logical_;
+  if (a.IsBool()) return a.bits_ == b.bits_;
   if (a.IsString()) return a.text_ == b.text_;
   return a.GetIntOrNumVariantValue() == b.GetIntOrNumVariantValue();
 }

@@ -7,6 +7,7 @@
 #include "TW/DynamicValue.hpp"
 #include "TW/UniString.hpp"
 
+#include <bit>
 #include <cstdint>
 #include <memory>
 #include <new>
@@ -26,7 +27,7 @@ class QX_EXPORT ExpressionValue {
   struct UndefinedSelector {};
 
   /// An invalid value.
-  ExpressionValue() noexcept : integer_(0) {}
+  ExpressionValue() noexcept : bits_(0) {}
   /// Takes over the content of `variant` and deletes it; null makes an invalid value.
   explicit ExpressionValue(TW::DynamicValue* variant);
   ExpressionValue(const ExpressionValue& other) { CopyFrom(other); }
@@ -68,7 +69,7 @@ class QX_EXPORT ExpressionValue {
   static ExpressionValue FromNumericValueInInches(double value);
 
   bool IsValid() const noexcept {
-    return kind_ != Kind::Invalid && (kind_ != Kind::Number || undefined_ || IsValidNumber(number_));
+    return kind_ != Kind::Invalid && (kind_ != Kind::Number || undefined_ || IsValidNumber(GetNumber()));
   }
   bool IsBool() const noexcept { return kind_ == Kind::Logical; }
   bool IsString() const noexcept { return kind_ == Kind::Text; }
@@ -82,7 +83,7 @@ class QX_EXPORT ExpressionValue {
   bool IsUserUndefined() const noexcept { return undefined_; }
 
   /// The content, or false when it is not a defined logical value.
-  bool GetAsBool() const noexcept { return kind_ == Kind::Logical && !undefined_ && logical_; }
+  bool GetAsBool() const noexcept { return kind_ == Kind::Logical && !undefined_ && bits_ != 0; }
   /// The content, or the empty text when it is not a defined text.
   const TW::UniString& GetAsString() const& noexcept;
   TW::UniString GetAsString() && noexcept;
@@ -109,23 +110,28 @@ class QX_EXPORT ExpressionValue {
  private:
   enum class Kind : std::uint8_t { Invalid, Logical, Text, Integer, Number };
 
-  ExpressionValue(Kind kind, bool undefined) noexcept : integer_(0), kind_(kind), undefined_(undefined) {}
+  ExpressionValue(Kind kind, std::uint64_t bits, bool undefined) noexcept
+      : bits_(bits), kind_(kind), undefined_(undefined) {}
   ExpressionValue(double number, UnitExponents exponents, bool undefined) noexcept
-      : number_(number), exponents_(exponents), kind_(Kind::Number), undefined_(undefined) {}
+      : bits_(std::bit_cast<std::uint64_t>(number)),
+        exponents_(exponents),
+        kind_(Kind::Number),
+        undefined_(undefined) {}
   ExpressionValue(TW::UniString&& text, bool undefined) noexcept
       : text_(std::move(text)), kind_(Kind::Text), undefined_(undefined) {}
 
+  double GetNumber() const noexcept { return std::bit_cast<double>(bits_); }
+  std::int32_t GetInteger() const noexcept { return static_cast<std::int32_t>(bits_); }
+
   void CopyFrom(const ExpressionValue& other);
   void MoveFrom(ExpressionValue& other) noexcept;
-  void CopyPlain(const ExpressionValue& other) noexcept;
   void DestroyText() noexcept {
     if (kind_ == Kind::Text) text_.~UniString();
   }
 
+  // A text, or the bits of anything else.
   union {
-    bool logical_;
-    std::int32_t integer_;
-    double number_;
+    std::uint64_t bits_;
     TW::UniString text_;
   };
   UnitExponents exponents_;
@@ -137,21 +143,11 @@ static_assert(sizeof(ExpressionValue) <= 64, "a value fits into one cache line")
 
 // What evaluation does at every node stands here, where callers can see through it.
 
-inline void ExpressionValue::CopyPlain(const ExpressionValue& other) noexcept {
-  if (other.kind_ == Kind::Number) {
-    number_ = other.number_;
-  } else if (other.kind_ == Kind::Logical) {
-    logical_ = other.logical_;
-  } else {
-    integer_ = other.kind_ == Kind::Integer ? other.integer_ : 0;
-  }
-}
-
 inline void ExpressionValue::CopyFrom(const ExpressionValue& other) {
   if (other.kind_ == Kind::Text) {
     new (&text_) TW::UniString(other.text_);
   } else {
-    CopyPlain(other);
+    bits_ = other.bits_;
   }
   exponents_ = other.exponents_;
   kind_ = other.kind_;
@@ -162,8 +158,9 @@ inline void ExpressionValue::MoveFrom(ExpressionValue& other) noexcept {
   if (other.kind_ == Kind::Text) {
     new (&text_) TW::UniString(std::move(other.text_));
     other.DestroyText();
+    other.bits_ = 0;
   } else {
-    CopyPlain(other);
+    bits_ = other.bits_;
   }
   exponents_ = other.exponents_;
   kind_ = std::exchange(other.kind_, Kind::Invalid);
@@ -171,26 +168,18 @@ inline void ExpressionValue::MoveFrom(ExpressionValue& other) noexcept {
 }
 
 inline ExpressionValue ExpressionValue::FromBool(bool value) noexcept {
-  ExpressionValue made(Kind::Logical, false);
-  made.logical_ = value;
-  return made;
+  return {Kind::Logical, std::uint64_t{value}, false};
 }
-inline ExpressionValue ExpressionValue::FromBool(UndefinedSelector) noexcept {
-  ExpressionValue made(Kind::Logical, true);
-  made.logical_ = false;
-  return made;
-}
+inline ExpressionValue ExpressionValue::FromBool(UndefinedSelector) noexcept { return {Kind::Logical, 0, true}; }
 inline ExpressionValue ExpressionValue::FromString(const TW::UniString& text) {
   return FromString(TW::UniString(text));
 }
 inline ExpressionValue ExpressionValue::FromString(TW::UniString&& text) noexcept { return {std::move(text), false}; }
 inline ExpressionValue ExpressionValue::FromString(UndefinedSelector) noexcept { return {TW::UniString(), true}; }
 inline ExpressionValue ExpressionValue::FromInteger(int value) noexcept {
-  ExpressionValue made(Kind::Integer, false);
-  made.integer_ = value;
-  return made;
+  return {Kind::Integer, static_cast<std::uint32_t>(value), false};
 }
-inline ExpressionValue ExpressionValue::FromInteger(UndefinedSelector) noexcept { return {Kind::Integer, true}; }
+inline ExpressionValue ExpressionValue::FromInteger(UndefinedSelector) noexcept { return {Kind::Integer, 0, true}; }
 inline ExpressionValue ExpressionValue::FromNumber(double value) noexcept { return {value, UnitExponents(), false}; }
 inline ExpressionValue ExpressionValue::FromNumber(UndefinedSelector) noexcept { return {0.0, UnitExponents(), true}; }
 inline ExpressionValue ExpressionValue::FromQuantity(const Quantity& quantity) noexcept {
@@ -204,8 +193,8 @@ inline ExpressionValue ExpressionValue::FromQuantity(UndefinedSelector, UnitExpo
 }
 
 inline double ExpressionValue::GetIntOrNumVariantValue() const noexcept {
-  if (kind_ == Kind::Number) return number_;
-  return kind_ == Kind::Integer ? integer_ : 0.0;
+  if (kind_ == Kind::Number) return GetNumber();
+  return kind_ == Kind::Integer ? GetInteger() : 0.0;
 }
 
 inline double ExpressionValue::GetAsNonUnitNumericValue() const noexcept {

@@ -42,19 +42,6 @@ void BuildParenthesizedExpressionString(const ExpressionNode* node, IExpressionS
   builder.AppendString(TW::UniString(EP::RightParenthesis), node);
 }
 
-const ExpressionValue& RequireValid(const ExpressionValue& value, const ExpressionNode* source) {
-  if (!value.IsValid()) throw ExpressionInternalErrorException(source);
-  return value;
-}
-
-Quantity RequireQuantity(const ExpressionValue& value, const ExpressionNode* source) {
-  if (!value.CanConvertToQuantity()) [[unlikely]] {
-    RequireValid(value, source);
-    throw ExpressionInvalidQuantityType(source);
-  }
-  return value.ConvertToQuantity();
-}
-
 ExpressionValue GetExpressionValueFromNode(const IExpressionEvaluationEnv& env, const ExpressionNode* node,
                                            const ExpressionNode* source) {
   ExpressionValue value = node->Evaluate(env);

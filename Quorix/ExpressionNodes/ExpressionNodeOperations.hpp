@@ -50,8 +50,16 @@ inline Quantity GetQuantityValueFromNode(const IExpressionEvaluationEnv& env, co
 }
 
 /// The same for a value that is there already.
-const ExpressionValue& RequireValid(const ExpressionValue& value, const ExpressionNode* source);
-Quantity RequireQuantity(const ExpressionValue& value, const ExpressionNode* source);
+inline const ExpressionValue& RequireValid(const ExpressionValue& value, const ExpressionNode* source) {
+  if (!value.IsValid()) [[unlikely]]
+    throw ExpressionInternalErrorException(source);
+  return value;
+}
+inline Quantity RequireQuantity(const ExpressionValue& value, const ExpressionNode* source) {
+  if (!RequireValid(value, source).CanConvertToQuantity()) [[unlikely]]
+    throw ExpressionInvalidQuantityType(source);
+  return value.ConvertToQuantity();
+}
 /// The quantity that a node has computed, which is invalid when it is not finite.
 inline const Quantity& RequireFinite(const Quantity& quantity, const ExpressionNode* source) {
   if (!quantity.IsUserUndefinedValue() && !IsValidNumber(quantity.GetNumericValue())) [[unlikely]] {

@@ -8,15 +8,12 @@ namespace QX {
 namespace {
 
 // Whatever the host throws, and for whatever reason, the formula only learns that there is no value.
-ExpressionValue AskHost(const IExpressionEvaluationEnv& env, const TW::Guid& propertyId, const ExpressionNode* source) {
+ExpressionValue AskHost(const IExpressionEvaluationEnv& env, const TW::Guid& propertyId) noexcept {
   try {
-    ExpressionValue value = env.GetPropertyValue(propertyId);
-    if (value.IsValid()) [[likely]]
-      return value;
+    return env.GetPropertyValue(propertyId);
   } catch (...) {
-    throw ExpressionPropertyEvaluationFailed(source);
+    return ExpressionValue::CreateInvalid();
   }
-  throw ExpressionPropertyEvaluationFailed(source);
 }
 
 }  // namespace
@@ -33,12 +30,16 @@ TW::Ref<TW::Object> ExpressionPropertyReferenceNode::ConstructorFunction() {
 }
 
 ExpressionValue ExpressionPropertyReferenceNode::Evaluate(const IExpressionEvaluationEnv& env) const {
-  return AskHost(env, propertyId_, this);
+  ExpressionValue value = AskHost(env, propertyId_);
+  if (!value.IsValid()) throw ExpressionPropertyEvaluationFailed(this);
+  return value;
 }
 
 Quantity ExpressionPropertyReferenceNode::EvaluateQuantity(const IExpressionEvaluationEnv& env,
                                                            const ExpressionNode* source) const {
-  return RequireQuantity(AskHost(env, propertyId_, this), source);
+  const ExpressionValue value = AskHost(env, propertyId_);
+  if (!value.IsValid()) throw ExpressionPropertyEvaluationFailed(this);
+  return RequireQuantity(value, source);
 }
 
 void ExpressionPropertyReferenceNode::BuildExpressionString(IExpressionStringBuilder& builder) const {

@@ -1,0 +1,103 @@
+#include "OptionTable.hpp"
+
+#include <algorithm>
+
+namespace Command {
+namespace {
+
+constexpr std::string_view Prefix = "--";
+
+bool IsLetter(char character) {
+  return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
+}
+
+bool IsOption(std::string_view argument) {
+  if (argument == "-h") return true;
+  return argument.starts_with(Prefix) && argument.size() > Prefix.size() && IsLetter(argument[Prefix.size()]);
+}
+
+std::string Quote(std::string_view text) {
+  return "'" + std::string(text) + "'";
+}
+
+std::string GetUsage(std::string_view name, std::string_view valueName) {
+  std::string usage = "  " + std::string(Prefix) + std::string(name);
+  if (!valueName.empty()) usage += " " + std::string(valueName);
+  return usage;
+}
+
+}  // namespace
+
+OptionTable::OptionTable() {
+  AddFlag("help", "shows this help", [this] { helpAsked_ = true; });
+}
+
+void OptionTable::AddFlag(std::string_view name, std::string_view help, std::function<void()> take) {
+  options_.push_back({name, {}, help, [take = std::move(take)](std::string_view) { take(); }});
+}
+
+void OptionTable::AddValue(std::string_view name, std::string_view valueName, std::string_view help,
+                           std::function<void(std::string_view)> take) {
+  options_.push_back({name, valueName, help, std::move(take)});
+}
+
+const OptionTable::Option& OptionTable::Find(std::string_view name) const {
+  const auto found =
+      std::find_if(options_.begin(), options_.end(), [name](const Option& option) { return option.name == name; });
+  if (found == options_.end()) {
+    throw UsageError("There is no option " + Quote(std::string(Prefix) + std::string(name)) +
+                     ". A formula that looks like one goes after " + Quote(Prefix) + ".");
+  }
+  return *found;
+}
+
+std::vector<std::string_view> OptionTable::Take(std::span<const std::string_view> arguments) {
+  std::vector<std::string_view> operands;
+  while (!arguments.empty()) {
+    const std::string_view argument = arguments.front();
+    if (IsOption(argument)) {
+      arguments = arguments.subspan(TakeOption(arguments));
+      continue;
+    }
+    arguments = arguments.subspan(1);
+    if (argument == Prefix) {
+      operands.insert(operands.end(), arguments.begin(), arguments.end());
+      break;
+    }
+    operands.push_back(argument);
+  }
+  return operands;
+}
+
+std::size_t OptionTable::TakeOption(std::span<const std::string_view> arguments) const {
+  std::string_view name = arguments.front() == "-h" ? "help" : arguments.front().substr(Prefix.size());
+  const std::size_t equals = name.find('=');
+  const bool hasValue = equals != name.npos;
+  const std::string_view joined = hasValue ? name.substr(equals + 1) : std::string_view();
+  name = name.substr(0, equals);
+  const Option& option = Find(name);
+  const bool wantsValue = !option.valueName.empty();
+  const std::string shown = Quote(std::string(Prefix) + std::string(name));
+  if (!wantsValue && hasValue) throw UsageError("The option " + shown + " takes no value.");
+  if (wantsValue && !hasValue && arguments.size() == 1) throw UsageError("The option " + shown + " needs a value.");
+  try {
+    option.take(hasValue || !wantsValue ? joined : arguments[1]);
+  } catch (const UsageError& error) {
+    throw UsageError("The option " + shown + " " + error.what());
+  }
+  return wantsValue && !hasValue ? 2 : 1;
+}
+
+std::string OptionTable::GetHelp() const {
+  std::size_t width = 0;
+  for (const Option& option : options_) width = std::max(width, GetUsage(option.name, option.valueName).size());
+  std::string help;
+  for (const Option& option : options_) {
+    std::string usage = GetUsage(option.name, option.valueName);
+    usage.resize(width + 2, ' ');
+    help += usage + std::string(option.help) + "\n";
+  }
+  return help;
+}
+
+}  // namespace Command

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "JsonDocument.hpp"
+#include "Quorix/ExpressionValue.hpp"
+#include "TW/Optional.hpp"
+
+namespace Command {
+
+/// Reads the value of a property in a request; nothing for one that is to fail. Throws `RequestError`.
+TW::Optional<QX::ExpressionValue> ReadPropertyValue(const JsonValue& value);
+
+}  // namespace Command
