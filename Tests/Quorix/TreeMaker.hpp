@@ -4,7 +4,6 @@
 #include "Quorix/FunctionNodeRegistry.hpp"
 #include "TW/DecimalNumber.hpp"
 
-#include <algorithm>
 #include <rapidcheck.h>
 #include <string>
 #include <vector>
@@ -20,6 +19,13 @@ class TreeMaker {
 
   QX::Expression Make() { return QX::Expression(MakeRow(Comparison).CheckedCast<QX::ExpressionNode>()); }
 
+  /// A formula of plain numbers, most of which can be evaluated.
+  static QX::Expression MakeSum() {
+    TreeMaker maker({});
+    maker.onlyNumbers_ = true;
+    return QX::Expression(maker.MakeRow(Additive).CheckedCast<QX::ExpressionNode>());
+  }
+
   static std::vector<TW::UniString> GetFunctionNames() {
     std::vector<TW::UniString> names;
     QX::GetFunctionNodeRegistry().EnumerateRegisteredFunctions(
@@ -31,16 +37,19 @@ class TreeMaker {
   using Signs = std::vector<const char16_t*>;
 
   static constexpr int Comparison = 0;
+  static constexpr int Additive = 1;
   static constexpr int Multiplicative = 2;
 
-  static int Pick(int count) { return *rc::gen::inRange(0, count); }
+  // Below `count`; every number as often, however small the trees are that the framework asks for.
+  static int Pick(int count) { return *rc::gen::resize(rc::kNominalSize, rc::gen::inRange(0, count)); }
   template <class Choice>
   static const Choice& PickOf(const std::vector<Choice>& choices) {
     return choices[static_cast<std::size_t>(Pick(static_cast<int>(choices.size())))];
   }
 
-  // How often a row goes on: less with every node, so that trees end.
-  bool GoesOn() { return nodes_ < 60 && Pick(4) == 3; }
+  // Whether a row or a row of signs goes on. Trees end soon after they have so many nodes.
+  static constexpr int ManyNodes = 60;
+  bool GoesOn() { return nodes_ < ManyNodes && Pick(5) > 2; }
 
   // One level of the operators that lean to the left.
   Node MakeRow(int level) {
@@ -64,7 +73,7 @@ class TreeMaker {
 
   Node MakePower() {
     Node base = MakePrimary();
-    if (!GoesOn()) return base;
+    if (onlyNumbers_ || !GoesOn()) return base;
     Node op = Count(builder_.CreateBinaryOperatorNode(u"^"));
     op->AddChild(base);
     op->AddChild(MakePrefixed());
@@ -72,9 +81,11 @@ class TreeMaker {
   }
 
   Node MakePrimary() {
-    switch (nodes_ < 60 ? Pick(9) : Pick(6)) {
+    if (onlyNumbers_ && nodes_ < ManyNodes && Pick(3) == 2) return MakeBrackets(Additive);
+    if (onlyNumbers_) return Count(builder_.CreateIntegerNode(1 + Pick(9), TW::UniString()));
+    switch (nodes_ < ManyNodes ? Pick(9) : Pick(6)) {
       case 0:
-        return Count(builder_.CreateIntegerNode(*rc::gen::inRange(0, 2147483647), MakeUnit()));
+        return Count(builder_.CreateIntegerNode(Pick(2147483647), MakeUnit()));
       case 1:
         return MakeNumber();
       case 2:
@@ -88,16 +99,19 @@ class TreeMaker {
       case 6:
         if (!functions_.empty()) return MakeCall();
         [[fallthrough]];
-      default: {
-        Node brackets = Count(builder_.CreateParenthesizedNode());
-        brackets->AddChild(MakeRow(Comparison));
-        return brackets;
-      }
+      default:
+        return MakeBrackets(Comparison);
     }
   }
 
+  Node MakeBrackets(int level) {
+    Node brackets = Count(builder_.CreateParenthesizedNode());
+    brackets->AddChild(MakeRow(level));
+    return brackets;
+  }
+
   Node MakeNumber() {
-    std::string text = std::to_string(*rc::gen::inRange(0, 100000)) + "." + Digits();
+    std::string text = std::to_string(Pick(100000)) + "." + Digits();
     if (Pick(3) == 2) text += PickOf(std::vector<std::string>{"e", "E+", "e-0"}) + std::to_string(Pick(300));
     double value = 0;
     RC_ASSERT(TW::ReadDecimalNumber(text, value) == TW::NumberReading::Read);
@@ -121,7 +135,7 @@ class TreeMaker {
     static const std::u16string_view often = u"\\\"a 1,.;+'\u00E9\u540D\xD83D\xDE00\x0001";
     TW::UniString text;
     for (int count = Pick(12); count > 0; --count) {
-      const auto unit = static_cast<char16_t>(*rc::gen::inRange(0, 0x10000));
+      const auto unit = static_cast<char16_t>(Pick(0x10000));
       const bool isAllowed = unit != u'\r' && unit != u'\n' && unit != u'[';
       text.Append(Pick(3) == 2 && isAllowed ? unit
                                             : often[static_cast<std::size_t>(Pick(static_cast<int>(often.size())))]);
@@ -130,9 +144,9 @@ class TreeMaker {
   }
 
   Node MakeFractionalInch() {
-    const auto denominator = static_cast<std::uint32_t>(*rc::gen::inRange(1, 2147483647));
-    const auto numerator = static_cast<std::uint32_t>(*rc::gen::inRange(0, 2147483647)) % denominator;
-    const auto whole = static_cast<std::uint32_t>(*rc::gen::inRange(0, 2147483647));
+    const auto denominator = static_cast<std::uint32_t>(1 + Pick(2147483646));
+    const auto numerator = static_cast<std::uint32_t>(Pick(2147483647)) % denominator;
+    const auto whole = static_cast<std::uint32_t>(Pick(2147483647));
     return Count(builder_.CreateFractionalInchNode({whole, numerator, denominator}));
   }
 
@@ -157,4 +171,5 @@ class TreeMaker {
   QX::SyntaxTreeBuilder builder_;
   std::vector<TW::UniString> functions_;
   int nodes_ = 0;
+  bool onlyNumbers_ = false;
 };
