@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Quorix/Export.hpp"
 #include "Quorix/UnitExponents.hpp"
 #include "TW/UniString.hpp"
 
@@ -12,6 +13,6 @@ struct AcceptedUnit {
 };
 
 /// The unit of a marker, matched exactly, or null. The table is made on the first call and kept.
-const AcceptedUnit* FindAcceptedUnit(const TW::UniString& marker);
+QX_EXPORT const AcceptedUnit* FindAcceptedUnit(const TW::UniString& marker);
 
 }  // namespace QX
