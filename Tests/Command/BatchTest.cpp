@@ -2,11 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fcntl.h>
 #include <fstream>
 #include <iterator>
 #include <poll.h>
-#include <regex>
+#include <string_view>
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -35,9 +36,13 @@ std::string JoinRequests(const std::vector<Case>& cases, const std::string& line
 
 // Messages change; answers whose message the file of cases leaves open are compared without.
 std::string HideMessage(const std::string& answer, const std::string& expected) {
-  static const std::regex message(R"("message": "(?:[^"\\]|\\.)+")");
-  if (expected.find(R"("message": "...")") == std::string::npos) return answer;
-  return std::regex_replace(answer, message, R"("message": "...")");
+  constexpr std::string_view Key = R"("message": ")";
+  const std::size_t open = expected.find(R"("message": "...")");
+  if (open == std::string::npos || answer.substr(open, Key.size()) != Key) return answer;
+  std::size_t close = open + Key.size();
+  while (close < answer.size() && answer[close] != '"') close += answer[close] == '\\' ? 2 : 1;
+  if (close == open + Key.size()) return answer;
+  return answer.substr(0, open + Key.size()) + "..." + answer.substr(std::min(close, answer.size()));
 }
 
 void ExpectAnswers(const std::vector<Case>& cases, const Outcome& outcome) {
