@@ -50,7 +50,7 @@ void AppendRendered(std::string& out, const Evaluation& evaluation, const QX::Ex
 }  // namespace
 
 void AppendDiagnostic(std::string& out, const Evaluation& evaluation, const TW::UniString& written,
-                      const ReplacedText& formula, const PropertyNames& names, const Environment& environment) {
+                      const PropertyNames& names, const Environment& environment) {
   if (!evaluation.failure) {
     out += "error: The result is no number, or too large for one. Change the values.\n";
     return AppendExcerpt(out, written, {});
@@ -59,8 +59,7 @@ void AppendDiagnostic(std::string& out, const Evaluation& evaluation, const TW::
   out += "error: " + failure.message.ToUtf8() + "\n";
   if (failure.source != nullptr) return AppendRendered(out, evaluation, *failure.source, names, environment);
   if (failure.stage == Failure::Stage::Evaluation) return AppendExcerpt(out, written, {});
-  const TW::Range<unsigned int> place = formula.ToOriginal(failure.place);
-  AppendExcerpt(out, written, {place, {place}});
+  AppendExcerpt(out, written, {failure.place, {failure.place}});
 }
 
 }  // namespace Command

@@ -1,16 +1,17 @@
 #pragma once
 
 #include "Quorix/AcceptedUnits.hpp"
+#include "Quorix/Export.hpp"
 #include "Quorix/Quantity.hpp"
 #include "TW/UniString.hpp"
 
 namespace QX {
 
 /// The unit written after a number. It is looked up once, when the marker is set.
-class UnitOfNumber {
+class QX_EXPORT UnitOfNumber {
  public:
   UnitOfNumber() = default;
-  explicit UnitOfNumber(TW::UniString marker) : marker_(std::move(marker)), unit_(FindAcceptedUnit(marker_)) {}
+  explicit UnitOfNumber(TW::UniString marker);
 
   const TW::UniString& GetMarker() const { return marker_; }
   /// Whether there is no unit, or one that the language knows.

@@ -36,9 +36,7 @@ std::optional<Expression> Parse(const TW::UniString& text, const TestHost& host,
   }
 }
 
-bool AreNear(double a, double b) {
-  return a == b || std::fabs(a - b) <= 1e-12 * std::max(std::fabs(a), std::fabs(b));
-}
+bool AreNear(double a, double b) { return a == b || std::fabs(a - b) <= 1e-12 * std::max(std::fabs(a), std::fabs(b)); }
 
 bool AreSame(const ExpressionValue& a, const ExpressionValue& b) {
   if (!a.ContainsIntOrNumVariant() || a.IsUserUndefined()) return ExpressionValue::AreEqualByContent(a, b);
@@ -46,10 +44,10 @@ bool AreSame(const ExpressionValue& a, const ExpressionValue& b) {
          AreNear(a.GetIntOrNumVariantValue(), b.GetIntOrNumVariantValue());
 }
 
-// One file, line by line.
+// One file, line by line; of a page of documentation, the blocks of cases.
 class CaseFile {
  public:
-  explicit CaseFile(const std::string& name) : path_(std::string(QX_CONFORMANCE_FOLDER "/") + name + ".qxt") {
+  explicit CaseFile(std::string path) : path_(std::move(path)), isPage_(path_.ends_with(".md")), inCases_(!isPage_) {
     FormulaWords::AddPropertiesTo(host_);
   }
 
@@ -59,6 +57,8 @@ class CaseFile {
     for (std::string line; std::getline(file, line);) {
       ++line_;
       if (!line.empty() && line.back() == '\r') line.pop_back();
+      if (isPage_ && line.starts_with("```")) inCases_ = line == "```qxt";
+      if (!inCases_ || line.starts_with("```")) continue;
       if (line.find_first_not_of(" \t") == line.npos || line.front() == '#') continue;
       line.front() == '@' ? Obey(line) : Check(line);
     }
@@ -137,6 +137,8 @@ class CaseFile {
   }
 
   std::string path_;
+  bool isPage_;
+  bool inCases_;
   int line_ = 0;
   int cases_ = 0;
   TestHost host_;
@@ -144,9 +146,9 @@ class CaseFile {
 
 class Conformance : public testing::TestWithParam<const char*> {};
 
-TEST_P(Conformance, Holds) {
-  CaseFile(GetParam()).Run();
-}
+TEST_P(Conformance, Holds) { CaseFile(std::string(QX_CONFORMANCE_FOLDER "/") + GetParam() + ".qxt").Run(); }
+
+TEST(Documentation, SaysWhatFormulasGive) { CaseFile(QX_DOCUMENTATION_FOLDER "/Language.md").Run(); }
 
 INSTANTIATE_TEST_SUITE_P(Files, Conformance, testing::ValuesIn(FileNames),
                          [](const testing::TestParamInfo<const char*>& file) { return std::string(file.param); });
