@@ -1,6 +1,6 @@
 #include "DisplayText.hpp"
 
-#include "TW/DynamicValue.hpp"
+#include "Quorix/ExpressionValueToString.hpp"
 
 #include <charconv>
 #include <string>
@@ -9,9 +9,7 @@
 namespace Command {
 namespace {
 
-TW::UniString ToText(unsigned short unit) {
-  return TW::UniString(TW::UniChar(static_cast<char16_t>(unit)));
-}
+TW::UniString ToText(unsigned short unit) { return TW::UniString(TW::UniChar(static_cast<char16_t>(unit))); }
 
 std::string GetUnitText(const char* unit, int exponent) {
   if (exponent == 0) return "";
@@ -31,15 +29,9 @@ TW::UniString GetBaseUnitText(const QX::ExpressionValue& value, const TW::UniStr
 }  // namespace
 
 TW::Optional<TW::UniString> GetDisplayText(const QX::ExpressionValue& value, const Environment& environment) {
-  if (!value.IsValid()) return {};
   const Settings& settings = environment.GetSettings();
-  if (value.ContainsIntOrNumVariant() && !value.IsUserUndefined() && !value.GetUnitExponents().IsNonUnit()) {
-    return environment.GetUnitConverter().SIToString(value, settings.locale, settings.markerMode);
-  }
-  const TW::DynamicValueConversionRules rules(settings.minimumDecimals, settings.maximumDecimals,
-                                              ToText(settings.locale.GetListSeparator()),
-                                              ToText(settings.locale.GetDecimalSeparator()));
-  return value.CloneContainedVariant()->ToDisplayText(rules);
+  return QX::ConvertExpressionValueToString(value, environment.GetUnitConverter(), settings.locale, settings.markerMode,
+                                            settings.minimumDecimals, settings.maximumDecimals);
 }
 
 TW::UniString GetTextForPeople(const QX::ExpressionValue& value, const Environment& environment) {

@@ -18,7 +18,7 @@ constexpr std::u16string_view ReasonNames[] = {
 };
 
 Failure MakeFailure(const EP::SyntaxErrorException& exception) {
-  Failure failure{Failure::Stage::Syntax, TW::UniString(GetReasonName(exception.GetReason())), exception.GetMessage()};
+  Failure failure{Failure::Stage::Syntax, TW::UniString(GetReasonName(exception.GetReason())), exception.ToString()};
   failure.place = {exception.GetPosition(), exception.GetPosition() + exception.GetLength()};
   return failure;
 }

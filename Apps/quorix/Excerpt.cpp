@@ -106,9 +106,7 @@ TW::Range<std::size_t> ChooseWindow(const Cells& cells) {
   return {begin, end};
 }
 
-void RemoveTrailingBlanks(std::string& text) {
-  text.erase(text.find_last_not_of(' ') + 1);
-}
+void RemoveTrailingBlanks(std::string& text) { text.erase(text.find_last_not_of(' ') + 1); }
 
 }  // namespace
 

@@ -30,13 +30,9 @@ struct ThrowingAllocator {
   }
 };
 
-std::uint32_t Narrow(std::size_t position) {
-  return static_cast<std::uint32_t>(position);
-}
+std::uint32_t Narrow(std::size_t position) { return static_cast<std::uint32_t>(position); }
 
-bool IsBlank(char character) {
-  return character == ' ' || character == '\t' || character == '\r' || character == '\n';
-}
+bool IsBlank(char character) { return character == ' ' || character == '\t' || character == '\r' || character == '\n'; }
 
 // The length of a UTF-8 sequence and the bits of its first byte.
 struct Lead {

@@ -7,21 +7,13 @@
 namespace Command {
 namespace {
 
-bool IsPlain(char16_t unit) {
-  return unit >= 0x20 && unit < 0x80 && unit != u'"' && unit != u'\\';
-}
+bool IsPlain(char16_t unit) { return unit >= 0x20 && unit < 0x80 && unit != u'"' && unit != u'\\'; }
 
-bool IsLead(char16_t unit) {
-  return unit >= 0xD800 && unit < 0xDC00;
-}
+bool IsLead(char16_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
 
-bool IsTrail(char16_t unit) {
-  return unit >= 0xDC00 && unit < 0xE000;
-}
+bool IsTrail(char16_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
 
-char ContinuationByte(char32_t code, unsigned int shift) {
-  return static_cast<char>(0x80 | ((code >> shift) & 0x3F));
-}
+char ContinuationByte(char32_t code, unsigned int shift) { return static_cast<char>(0x80 | ((code >> shift) & 0x3F)); }
 
 void AppendEscape(std::string& out, char16_t unit) {
   constexpr char Digits[] = "0123456789abcdef";

@@ -56,7 +56,7 @@ void EvaluateOperator(const QX::ExpressionBinaryOpNode& node, NodeFacts& facts, 
 void EvaluateNodes(std::vector<NodeFacts>& nodes, const Environment& environment) {
   for (std::size_t i = nodes.size(); i > 0; --i) {
     NodeFacts& facts = nodes[i - 1];
-    if (const QX::ExpressionBinaryOpNode* binary = facts.node->AsBinaryOperator()) {
+    if (const auto* binary = dynamic_cast<const QX::ExpressionBinaryOpNode*>(facts.node)) {
       EvaluateOperator(*binary, facts, nodes[i], environment);
     } else {
       facts.failure = Attempt([&] { facts.value = facts.node->Evaluate(environment); });

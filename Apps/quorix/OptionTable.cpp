@@ -16,9 +16,7 @@ bool IsOption(std::string_view argument) {
   return argument.starts_with(Prefix) && argument.size() > Prefix.size() && IsLetter(argument[Prefix.size()]);
 }
 
-std::string Quote(std::string_view text) {
-  return "'" + std::string(text) + "'";
-}
+std::string Quote(std::string_view text) { return "'" + std::string(text) + "'"; }
 
 std::string GetUsage(std::string_view name, std::string_view valueName) {
   std::string usage = "  " + std::string(Prefix) + std::string(name);

@@ -64,36 +64,20 @@ std::string List(const Row<Unit> (&rows)[Count]) {
 
 }  // namespace
 
-bool FindUnit(std::u16string_view name, TWUnit::LengthUnit& unit) {
-  return Find(LengthUnits, name, unit);
-}
+bool FindUnit(std::u16string_view name, TWUnit::LengthUnit& unit) { return Find(LengthUnits, name, unit); }
 
-bool FindUnit(std::u16string_view name, TWUnit::AreaUnit& unit) {
-  return Find(AreaUnits, name, unit);
-}
+bool FindUnit(std::u16string_view name, TWUnit::AreaUnit& unit) { return Find(AreaUnits, name, unit); }
 
-bool FindUnit(std::u16string_view name, TWUnit::VolumeUnit& unit) {
-  return Find(VolumeUnits, name, unit);
-}
+bool FindUnit(std::u16string_view name, TWUnit::VolumeUnit& unit) { return Find(VolumeUnits, name, unit); }
 
-bool FindUnit(std::u16string_view name, TWUnit::AngleUnit& unit) {
-  return Find(AngleUnits, name, unit);
-}
+bool FindUnit(std::u16string_view name, TWUnit::AngleUnit& unit) { return Find(AngleUnits, name, unit); }
 
-std::string GetUnitNames(TWUnit::LengthUnit) {
-  return List(LengthUnits);
-}
+std::string GetUnitNames(TWUnit::LengthUnit) { return List(LengthUnits); }
 
-std::string GetUnitNames(TWUnit::AreaUnit) {
-  return List(AreaUnits);
-}
+std::string GetUnitNames(TWUnit::AreaUnit) { return List(AreaUnits); }
 
-std::string GetUnitNames(TWUnit::VolumeUnit) {
-  return List(VolumeUnits);
-}
+std::string GetUnitNames(TWUnit::VolumeUnit) { return List(VolumeUnits); }
 
-std::string GetUnitNames(TWUnit::AngleUnit) {
-  return List(AngleUnits);
-}
+std::string GetUnitNames(TWUnit::AngleUnit) { return List(AngleUnits); }
 
 }  // namespace Command
