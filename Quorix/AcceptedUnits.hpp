@@ -1,7 +1,10 @@
 #pragma once
 
+#include "Quorix/Export.hpp"
 #include "Quorix/UnitExponents.hpp"
 #include "TW/UniString.hpp"
+
+#include <functional>
 
 namespace QX {
 
@@ -13,5 +16,9 @@ struct AcceptedUnit {
 
 /// The unit of a marker, matched exactly, or null. The table is made on the first call and kept.
 const AcceptedUnit* FindAcceptedUnit(const TW::UniString& marker);
+
+/// Calls `visit` for every marker, always in the same order.
+QX_EXPORT void EnumerateAcceptedUnits(
+    const std::function<void(const TW::UniString& marker, const AcceptedUnit& unit)>& visit);
 
 }  // namespace QX
