@@ -15,7 +15,7 @@ struct AcceptedUnit {
 };
 
 /// The unit of a marker, matched exactly, or null. The table is made on the first call and kept.
-const AcceptedUnit* FindAcceptedUnit(const TW::UniString& marker);
+QX_EXPORT const AcceptedUnit* FindAcceptedUnit(const TW::UniString& marker);
 
 /// Calls `visit` for every marker, always in the same order.
 QX_EXPORT void EnumerateAcceptedUnits(

@@ -7,7 +7,7 @@
 
 namespace Command {
 
-/// Cuts what comes from a file descriptor into lines. Memory grows with the longest line that it gives, never beyond
+/// Cuts what comes from a file descriptor into lines, which end with LF or CR LF. Memory grows with the longest line that it gives, never beyond
 /// the longest that it allows.
 class LineReader {
  public:

@@ -2,6 +2,7 @@
 
 namespace QX {
 
-UnitOfNumber::UnitOfNumber(TW::UniString marker) : marker_(std::move(marker)), unit_(FindAcceptedUnit(marker_)) {}
+UnitOfNumber::UnitOfNumber(TW::UniString marker)
+    : marker_(std::move(marker)), unit_(marker_.IsEmpty() ? nullptr : FindAcceptedUnit(marker_)) {}
 
 }  // namespace QX

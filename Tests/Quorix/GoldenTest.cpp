@@ -3,6 +3,7 @@
 
 #include <cstdlib>
 #include <set>
+#include <sstream>
 
 namespace {
 
@@ -51,6 +52,28 @@ TEST(Golden, EveryKindOfNodeIsThere) {
     const TW::ClassInfo* info = node->GetClassInfo();
     EXPECT_TRUE(kinds.contains(info->GetGuid())) << info->GetName() << " is in no stored formula";
   });
+}
+
+// The bytes of the example in the page about the format: hexadecimal digits up to a bar, line by line.
+StoredBytes ReadExampleOfThePage() {
+  std::ifstream page(QX_PERSISTENCE_PAGE);
+  StoredBytes bytes;
+  bool inside = false;
+  for (std::string line; std::getline(page, line);) {
+    if (line.starts_with("```")) inside = line == "```hex";
+    std::istringstream digits(inside ? line.substr(0, line.find('|')) : "");
+    unsigned int byte = 0;
+    while (digits >> std::hex >> byte) bytes.push_back(static_cast<std::byte>(byte));
+  }
+  return bytes;
+}
+
+TEST(PersistencePage, ShowsWhatIsReallyStored) {
+  const StoredBytes example = ReadExampleOfThePage();
+  EXPECT_EQ(example, Store(ParseFormula(u"0.5 m + 3")));
+  Expression read;
+  ASSERT_EQ(ReadStored(example, read), TW::NoErr);
+  EXPECT_EQ(Render(read), u"0.5 m + 3");
 }
 
 }  // namespace

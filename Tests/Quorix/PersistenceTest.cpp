@@ -1,3 +1,5 @@
+#include "Quorix/ExpressionNodes/ExpressionBinaryOpNode.hpp"
+#include "Quorix/ExpressionNodes/ExpressionComparisonNode.hpp"
 #include "Quorix/ExpressionNodes/ExpressionFractionalInchNode.hpp"
 #include "Quorix/ExpressionNodes/ExpressionIdentifierNode.hpp"
 #include "Quorix/ExpressionNodes/ExpressionIntegerNode.hpp"
@@ -22,12 +24,8 @@ void* operator new(std::size_t size) {
   if (void* memory = std::malloc(std::max<std::size_t>(size, 1))) return memory;
   throw std::bad_alloc();
 }
-void operator delete(void* memory) noexcept {
-  std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-  std::free(memory);
-}
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 namespace {
 
@@ -239,8 +237,15 @@ TEST(Persistence, WhatNoTextGivesFailsWhenItIsEvaluated) {
     TW::Ref<QX::ExpressionNode> root;
     const char* failure;  // empty for the invalid value
   };
+  const auto comparison = MakeNode<QX::ExpressionEqualNode>(MakeInteger(1), MakeInteger(1));
+  const auto sum = MakeNode<QX::ExpressionAdditionNode>(comparison, MakeInteger(2));
   const Row rows[] = {
+      // Operators that bind loosely, as left operands of those that bind tightly.
+      {sum, "error ExpressionInvalidQuantityType @0..9"},
+      {MakeNode<QX::ExpressionEqualNode>(sum, MakeInteger(3)), "error ExpressionInvalidQuantityType @0..9"},
       {TW::MakeRef<ExpressionIntegerNode>(1, u"foo"), ""},
+      {MakeNode<QX::ExpressionAdditionNode>(MakeInteger(1), TW::MakeRef<ExpressionIntegerNode>(1, u"foo")),
+       "error ExpressionInternalErrorException @0..9"},
       {number(1, u"foo"), "error ExpressionInternalErrorException @0..7"},
       {number(std::numeric_limits<double>::infinity(), u""), "error ExpressionInternalErrorException @0..3"},
       {number(std::numeric_limits<double>::quiet_NaN(), u"m"), "error ExpressionInternalErrorException @0..5"},
@@ -321,6 +326,8 @@ TEST(Persistence, NoClaimTakesMemory) {
   const StoredBytes text = Store(ParseFormula(u"\"abc\" = \"def\""));
   const StoredBytes unit = Store(ParseFormula(u"5 cm"));
   for (const StoredBytes& whole : {text, unit}) {
+    EXPECT_EQ(ReadBroken(whole), TW::NoErr);
+    EXPECT_GT(largestRequest, 0U);
     for (std::size_t at = 0; at + 4 <= whole.size(); ++at) {
       StoredBytes bytes = whole;
       std::fill_n(bytes.begin() + static_cast<std::ptrdiff_t>(at), 4, std::byte{0xFF});

@@ -12,13 +12,9 @@ namespace {
 using Guids = TW::HashSet<TW::Guid>;
 
 // Properties of graphs are named by capital letters.
-TW::Guid GuidOf(char letter) {
-  return TW::Guid(TW::Guid::Bytes{static_cast<std::uint8_t>(letter)});
-}
+TW::Guid GuidOf(char letter) { return TW::Guid(TW::Guid::Bytes{static_cast<std::uint8_t>(letter)}); }
 
-char LetterOf(const TW::Guid& guid) {
-  return static_cast<char>(guid.GetBytes()[0]);
-}
+char LetterOf(const TW::Guid& guid) { return static_cast<char>(guid.GetBytes()[0]); }
 
 Guids GuidsOf(const std::string& letters) {
   Guids guids;

@@ -128,6 +128,15 @@ TEST(FunctionNodeRegistry, FindsNamesInAnyCase) {
   }
 }
 
+TEST(FunctionNodeRegistry, ListsTheFunctions) {
+  std::vector<std::string> names;
+  QX::GetFunctionNodeRegistry().EnumerateRegisteredFunctions(
+      [&names](const TW::UniString& name) { names.push_back(name.ToUtf8()); });
+  ASSERT_EQ(names.size(), 57U);
+  EXPECT_EQ(names.front(), "TRIM");
+  EXPECT_EQ(names.back(), "ISUNDEFINED");
+}
+
 TEST(CharacterClasses, TellWhatMayStandWhere) {
   for (const char16_t letter : {u'a', u'Z', u'0', u'9', u'é', u'名', u'٣'}) {
     EXPECT_TRUE(QX::IsValidFunctionChar(letter)) << int{letter};
