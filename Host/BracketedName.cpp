@@ -1,0 +1,38 @@
+#include "Host/BracketedName.hpp"
+
+#include "EP/TextConstants.hpp"
+
+namespace Host {
+namespace {
+
+constexpr char16_t Escape = EP::EscapeChar.front();
+constexpr char16_t ClosingBracket = EP::ReferenceEnd.front();
+
+bool NeedsEscape(char16_t unit) { return unit == Escape || unit == ClosingBracket; }
+
+}  // namespace
+
+TW::Optional<BracketedName> ReadBracketedName(std::u16string_view text, std::size_t position) {
+  BracketedName found;
+  for (std::size_t i = position + 1; i < text.size(); ++i) {
+    if (text[i] == ClosingBracket) {
+      found.end = i + 1;
+      return found;
+    }
+    if (text[i] == Escape && i + 1 < text.size() && NeedsEscape(text[i + 1])) ++i;
+    found.name.Append(TW::UniChar(text[i]));
+  }
+  return std::nullopt;
+}
+
+TW::UniString BracketName(std::u16string_view name) {
+  TW::UniString bracketed(EP::ReferenceStart);
+  for (const char16_t unit : name) {
+    if (NeedsEscape(unit)) bracketed += EP::EscapeChar;
+    bracketed.Append(TW::UniChar(unit));
+  }
+  bracketed += EP::ReferenceEnd;
+  return bracketed;
+}
+
+}  // namespace Host
