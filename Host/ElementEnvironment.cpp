@@ -4,8 +4,15 @@
 
 namespace Host {
 
+const PropertyIndex* ElementEnvironment::Find(const TW::Guid& propertyId) const {
+  for (const PropertyIndex& property : expected_) {
+    if (table_.GetCatalog().Get(property).id == propertyId) return &property;
+  }
+  return table_.GetCatalog().FindById(propertyId);
+}
+
 QX::EvaluableStatus ElementEnvironment::GetPropertyEvaluableStatus(const TW::Guid& propertyId) const {
-  const PropertyIndex* property = table_.GetCatalog().FindById(propertyId);
+  const PropertyIndex* property = Find(propertyId);
   if (property == nullptr) return QX::EvaluableStatus::NotEvaluable;
   switch (table_.GetStatus(*property, element_)) {
     case CellStatus::Undefined:
@@ -19,7 +26,7 @@ QX::EvaluableStatus ElementEnvironment::GetPropertyEvaluableStatus(const TW::Gui
 }
 
 QX::ExpressionValue ElementEnvironment::GetPropertyValue(const TW::Guid& propertyId) const {
-  const PropertyIndex* property = table_.GetCatalog().FindById(propertyId);
+  const PropertyIndex* property = Find(propertyId);
   return property != nullptr ? table_.GetValue(*property, element_) : QX::ExpressionValue::CreateInvalid();
 }
 

@@ -7,6 +7,7 @@
 #include "Quorix/ExpressionReferenceFormatUtils.hpp"
 
 #include <algorithm>
+#include <span>
 #include <utility>
 
 namespace Host {
@@ -14,37 +15,31 @@ namespace {
 
 using TextRange = TW::Range<unsigned int>;
 
+// By so much most texts grow.
+constexpr std::size_t RoomForReferences = 128;
+
 FormulaError MakeSyntaxError(EP::SyntaxErrorReason reason, TextRange range) {
   return {FormulaErrorKind::Syntax, range, EP::SyntaxErrorException(reason, range).ToString(), reason, {}};
 }
 
-// What a reference in a formula's text means: one property, or why not.
-struct Meaning {
-  const PropertyIndex* property = nullptr;
-  FormulaError error;
-};
+FormulaError MakeNameError(FormulaErrorKind kind, TextRange range, const TW::UniString& message,
+                           std::u16string_view reference, std::span<const PropertyIndex> bearers) {
+  return {kind,
+          range,
+          TW::UniString::Printf(message, TW::UniString(reference)),
+          std::nullopt,
+          {bearers.begin(), bearers.end()}};
+}
 
-Meaning FindMeaning(std::u16string_view reference, const TW::UniString& name, const PropertyCatalog& catalog) {
+// The properties that a reference in a formula's text can mean; it should be one.
+std::span<const PropertyIndex> FindMeanings(std::u16string_view reference, const TW::UniString& name,
+                                            const PropertyCatalog& catalog) {
   TW::Guid id;
-  const bool isGuid = QX::IsWellFormedExpressionPropertyReference(TW::UniString(reference), &id);
-  if (isGuid) {
-    if (const PropertyIndex* property = catalog.FindById(id)) return {property, {}};
-  } else if (const auto bearers = catalog.FindByName(name); bearers.size() == 1) {
-    return {bearers.data(), {}};
-  } else if (bearers.size() > 1) {
-    return {nullptr,
-            {FormulaErrorKind::AmbiguousName,
-             {},
-             TW::UniString::Printf(u"Several properties are named %T.", TW::UniString(reference)),
-             std::nullopt,
-             {bearers.begin(), bearers.end()}}};
-  }
-  return {nullptr,
-          {FormulaErrorKind::UnknownName,
-           {},
-           TW::UniString::Printf(u"There is no property %T.", TW::UniString(reference)),
-           std::nullopt,
-           {}}};
+  const bool isGuid = name.GetView().starts_with(QX::PropertyReferenceType) &&
+                      QX::IsWellFormedExpressionPropertyReference(TW::UniString(reference), &id);
+  if (!isGuid) return catalog.FindByName(name);
+  const PropertyIndex* property = catalog.FindById(id);
+  return {property, property != nullptr ? 1U : 0U};
 }
 
 // A bracket begins a name wherever an element can begin; that it may look like another element to the tokenizer (a
@@ -79,6 +74,7 @@ class NamingRenderer final : public QX::IExpressionStringBuilder {
 TW::Optional<FormulaError> ResolvedFormulaText::Resolve(std::u16string_view typed,
                                                         const EP::IParsingLocaleSettings& settings,
                                                         const PropertyCatalog& catalog) {
+  text_.Reserve(typed.size() + RoomForReferences);
   unsigned int start = 0;  // of what the tokenizer sees
   EP::Tokenizer tokenizer(typed, settings);
   for (EP::Token token = tokenizer.Next(); token.kind != EP::TokenKind::End; token = tokenizer.Next()) {
@@ -90,12 +86,16 @@ TW::Optional<FormulaError> ResolvedFormulaText::Resolve(std::u16string_view type
     const TW::Optional<BracketedName> name = ReadBracketedName(typed, begin);
     if (!name) return MakeSyntaxError(EP::SyntaxErrorReason::UnterminatedReference, {begin, begin + 1});
     const TextRange range{begin, static_cast<unsigned int>(name->end)};
-    Meaning meaning = FindMeaning(typed.substr(begin, range.GetLength()), name->name, catalog);
-    if (meaning.property == nullptr) {
-      meaning.error.range = range;
-      return std::move(meaning.error);
+    const std::u16string_view reference = typed.substr(begin, range.GetLength());
+    const std::span<const PropertyIndex> meanings = FindMeanings(reference, name->name, catalog);
+    if (meanings.empty()) {
+      return MakeNameError(FormulaErrorKind::UnknownName, range, u"There is no property %T.", reference, {});
     }
-    Replace(range, *meaning.property, catalog.Get(*meaning.property).id);
+    if (meanings.size() > 1) {
+      return MakeNameError(FormulaErrorKind::AmbiguousName, range, u"Several properties are named %T.", reference,
+                           meanings);
+    }
+    Replace(range, meanings.front(), catalog.Get(meanings.front()).id);
     start = range.end;
     tokenizer = EP::Tokenizer(typed.substr(start), settings);
   }

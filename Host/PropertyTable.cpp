@@ -155,7 +155,7 @@ bool PropertyTable::ComputeColumn(PropertyIndex property) {
 bool PropertyTable::ComputeCell(PropertyIndex property, ElementIndex element) {
   Column& column = columns_[property];
   if (column.GetStatus(element) == CellStatus::Absent) return false;
-  const ElementEnvironment environment(*this, element);
+  const ElementEnvironment environment(*this, element, graph_.GetPrecedents(property));
   try {
     QX::ExpressionValue value = formulas_[property].Evaluate(environment);
     if (!value.IsValid()) return column.SetFailure(element, {nullptr, 0, FailureKind::InvalidResult});
