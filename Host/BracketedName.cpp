@@ -12,17 +12,12 @@ bool NeedsEscape(char16_t unit) { return unit == Escape || unit == ClosingBracke
 
 }  // namespace
 
-TW::Optional<BracketedName> ReadBracketedName(std::u16string_view text, std::size_t position) {
-  BracketedName found;
+std::size_t FindBracketEnd(std::u16string_view text, std::size_t position) {
   for (std::size_t i = position + 1; i < text.size(); ++i) {
-    if (text[i] == ClosingBracket) {
-      found.end = i + 1;
-      return found;
-    }
+    if (text[i] == ClosingBracket) return i + 1;
     if (text[i] == Escape && i + 1 < text.size() && NeedsEscape(text[i + 1])) ++i;
-    found.name.Append(TW::UniChar(text[i]));
   }
-  return std::nullopt;
+  return text.size();
 }
 
 TW::UniString BracketName(std::u16string_view name) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "TW/Optional.hpp"
 #include "TW/UniString.hpp"
 
 #include <cstddef>
@@ -11,14 +10,8 @@
 
 namespace Host {
 
-/// A name as it was found in a text.
-struct BracketedName {
-  TW::UniString name;   ///< without escapes
-  std::size_t end = 0;  ///< the position after the closing bracket
-};
-
-/// Reads the name whose opening bracket stands at `position`; nothing when the closing one is missing.
-TW::Optional<BracketedName> ReadBracketedName(std::u16string_view text, std::size_t position);
+/// The position after the bracket that closes the one at `position`, or the length of the text when none does.
+std::size_t FindBracketEnd(std::u16string_view text, std::size_t position);
 
 /// The name in brackets, with escapes.
 TW::UniString BracketName(std::u16string_view name);

@@ -1,49 +1,37 @@
 #pragma once
 
 #include "EP/LocaleSettings.hpp"
-#include "Host/FormulaError.hpp"
 #include "Host/PropertyCatalog.hpp"
 #include "Quorix/ExpressionNodes/ExpressionNode.hpp"
 #include "Quorix/ExpressionString.hpp"
-#include "TW/HashSet.hpp"
-#include "TW/Optional.hpp"
 #include "TW/Range.hpp"
 #include "TW/UniString.hpp"
 
+#include <cstddef>
 #include <string_view>
 #include <vector>
 
 namespace Host {
 
-/// A formula's text in which every property is named by its GUID, made from one in which people named them.
-class ResolvedFormulaText {
+/// A formula's text with names in brackets, made into one that the parser takes: a name `[Width]` becomes a reference
+/// `[Property:Width]`, whose value is all that stood between the brackets. Texts in quotes stay as they are.
+class ReferenceText {
  public:
-  /// Replaces the names of properties in `typed`, leaving texts in quotes alone. Gives the first name from the left
-  /// that means no property or several; what is no formula for other reasons is left to the parser.
-  TW::Optional<FormulaError> Resolve(std::u16string_view typed, const EP::IParsingLocaleSettings& settings,
-                                     const PropertyCatalog& catalog);
+  ReferenceText(std::u16string_view typed, const EP::IParsingLocaleSettings& settings);
 
   const TW::UniString& GetText() const { return text_; }
-  /// The properties named, each once, in the order of the text.
-  const TW::HashSet<PropertyIndex>& GetReferences() const { return references_; }
-  /// Where the text that was typed names the property first.
-  TW::Range<unsigned int> FindReference(PropertyIndex property) const;
-  /// The stretch of the typed text that a stretch of the resolved text comes from.
-  TW::Range<unsigned int> ToTypedRange(TW::Range<unsigned int> range) const;
+  /// Where the reference of this number stands in the typed text, from 0 and from left to right.
+  TW::Range<unsigned int> GetReferenceRange(std::size_t number) const { return references_[number]; }
+  /// The stretch of the typed text that a stretch of the other text comes from.
+  TW::Range<unsigned int> ToTypedRange(TW::Range<unsigned int> range) const {
+    return {ToTyped(range.begin), ToTyped(range.end)};
+  }
 
  private:
-  struct Replacement {
-    TW::Range<unsigned int> typed;
-    TW::Range<unsigned int> resolved;
-    PropertyIndex property;
-  };
-
-  void Replace(TW::Range<unsigned int> typed, PropertyIndex property, const TW::Guid& id);
-  const Replacement* FindLastBefore(unsigned int position) const;
+  unsigned int ToTyped(unsigned int position) const;
 
   TW::UniString text_;
-  std::vector<Replacement> replacements_;
-  TW::HashSet<PropertyIndex> references_;
+  std::vector<TW::Range<unsigned int>> references_;  ///< in the typed text
 };
 
 /// The text of a formula in the given separators, in which properties have their names, with the range of every node.

@@ -3,6 +3,7 @@
 #include "Host/ElementEnvironment.hpp"
 #include "Host/Explanation.hpp"
 #include "Host/FormulaReader.hpp"
+#include "Host/FormulaText.hpp"
 #include "Host/NameGuidMapper.hpp"
 #include "Host/PropertyTable.hpp"
 

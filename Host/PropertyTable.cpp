@@ -5,6 +5,7 @@
 #include "Host/FormulaText.hpp"
 #include "Quorix/ExpressionSemanticExceptions.hpp"
 
+#include <algorithm>
 #include <utility>
 
 namespace Host {
@@ -47,11 +48,13 @@ TW::Optional<FormulaError> PropertyTable::SetFormula(PropertyIndex property, std
   }
   ReadFormula read = ReadFormulaWithNames(text, settings, catalog_);
   if (read.error) return std::move(read.error);
-  const std::vector<PropertyIndex> precedents(read.text.GetReferences().begin(), read.text.GetReferences().end());
+  std::vector<PropertyIndex> precedents;
+  precedents.reserve(read.references.size());
+  for (const FormulaReference& reference : read.references) precedents.push_back(reference.property);
   std::vector<PropertyIndex> cycle = graph_.SetPrecedents(property, precedents);
   if (!cycle.empty()) {
-    const TW::Range<unsigned int> range = read.text.FindReference(cycle[1]);
-    return MakeCycleError(std::move(cycle), range);
+    const auto culprit = std::ranges::find(read.references, cycle[1], &FormulaReference::property);
+    return MakeCycleError(std::move(cycle), culprit->range);
   }
   columns_[property].Clear();
   formulas_[property] = std::move(read.expression);

@@ -75,6 +75,8 @@ TEST(FormulaNames, ErrorsLieInTheTextThatWasTyped) {
       {"[Property:00000000-0000-0000-0000-000000000001]", "UnknownName 0..47"},
       {"[Width] * [Height]", "AmbiguousName 10..18"},
       {"[A.B.C]", "AmbiguousName 0..7"},
+      {"FOO(1) + [None]", "Syntax 0..3"},
+      {"[None] + FOO(1)", "UnknownName 0..6"},
       {"[Width", "Syntax 0..1"},
       {"[Width] + [Side area", "Syntax 10..11"},
       {"[Width] [Width]", "Syntax 8..15"},
