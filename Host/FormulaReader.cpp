@@ -6,6 +6,8 @@
 #include "Host/NamingTreeBuilder.hpp"
 
 #include <algorithm>
+#include <span>
+#include <utility>
 
 namespace Host {
 namespace {
@@ -38,7 +40,9 @@ std::vector<FormulaReference> MakeReferences(const ReferenceText& text, const st
   references.reserve(properties.size());
   for (std::size_t i = 0; i < properties.size(); ++i) references.push_back({properties[i], text.GetReferenceRange(i)});
   if (references.size() < 2) return references;
-  std::ranges::stable_sort(references, {}, &FormulaReference::property);
+  std::ranges::sort(references, {}, [](const FormulaReference& reference) {
+    return std::pair(reference.property, reference.range.begin);
+  });
   const auto doubles = std::ranges::unique(references, {}, &FormulaReference::property);
   references.erase(doubles.begin(), doubles.end());
   std::ranges::sort(references, {}, [](const FormulaReference& reference) { return reference.range.begin; });

@@ -6,6 +6,7 @@
 #include "Quorix/ExpressionSemanticExceptions.hpp"
 
 #include <algorithm>
+#include <exception>
 #include <utility>
 
 namespace Host {
@@ -102,7 +103,7 @@ bool PropertyTable::SetApplies(PropertyIndex property, ElementIndex element, boo
   } else {
     column.SetValue(element, MakeUndefinedValue(*kind));
   }
-  if (HasFormula(property)) pending_.MarkCell(property, element);
+  if (applies && HasFormula(property)) pending_.MarkCell(property, element);
   MarkDependents(property, element);
   return true;
 }
@@ -141,23 +142,24 @@ std::size_t PropertyTable::Recalculate() {
 
 void PropertyTable::Compute(const PendingCells::Cell& cell, std::size_t& count) {
   if (!HasFormula(cell.property)) return;
-  count += cell.element ? 1 : elementCount_;
-  const bool changed = cell.element ? ComputeCell(cell.property, *cell.element) : ComputeColumn(cell.property);
+  const bool changed =
+      cell.element ? ComputeCell(cell.property, *cell.element, count) : ComputeColumn(cell.property, count);
   if (!changed) return;
   for (const PropertyIndex dependent : graph_.GetDependents(cell.property)) pending_.Mark(dependent, cell, graph_);
 }
 
-bool PropertyTable::ComputeColumn(PropertyIndex property) {
+bool PropertyTable::ComputeColumn(PropertyIndex property, std::size_t& count) {
   bool changed = false;
   for (ElementIndex element = 0; element < elementCount_; ++element) {
-    changed = ComputeCell(property, element) || changed;
+    changed = ComputeCell(property, element, count) || changed;
   }
   return changed;
 }
 
-bool PropertyTable::ComputeCell(PropertyIndex property, ElementIndex element) {
+bool PropertyTable::ComputeCell(PropertyIndex property, ElementIndex element, std::size_t& count) {
   Column& column = columns_[property];
   if (column.GetStatus(element) == CellStatus::Absent) return false;
+  ++count;
   const ElementEnvironment environment(*this, element, graph_.GetPrecedents(property));
   try {
     QX::ExpressionValue value = formulas_[property].Evaluate(environment);
@@ -167,6 +169,10 @@ bool PropertyTable::ComputeCell(PropertyIndex property, ElementIndex element) {
     return column.SetValue(element, value);
   } catch (const QX::ExpressionSemanticException& failure) {
     return column.SetFailure(element, {failure.GetSource(), failure.GetResIdx(), FailureKind::Evaluation});
+  } catch (const std::exception&) {
+    // A text may grow beyond the memory; that is the trouble of this cell alone.
+    const short resourceIndex = QX::ExpressionInternalErrorException(nullptr).GetResIdx();
+    return column.SetFailure(element, {nullptr, resourceIndex, FailureKind::Evaluation});
   }
 }
 

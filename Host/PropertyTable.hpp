@@ -86,8 +86,8 @@ class PropertyTable final : public QX::IExpressionReferenceResolver {
   void MarkDependents(PropertyIndex property);
   void MarkDependents(PropertyIndex property, ElementIndex element);
   void Compute(const PendingCells::Cell& cell, std::size_t& count);
-  bool ComputeColumn(PropertyIndex property);
-  bool ComputeCell(PropertyIndex property, ElementIndex element);
+  bool ComputeColumn(PropertyIndex property, std::size_t& count);
+  bool ComputeCell(PropertyIndex property, ElementIndex element, std::size_t& count);
 
   EvaluationSettings settings_;
   PropertyCatalog catalog_;
