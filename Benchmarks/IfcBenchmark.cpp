@@ -1,30 +1,17 @@
 #include "Host/Ifc/IfcModel.hpp"
 #include "Host/Ifc/StepFile.hpp"
+#include "PeakMemory.hpp"
 
 #include <benchmark/benchmark.h>
 
-#include <malloc.h>
-
-#include <atomic>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <new>
 #include <string>
 
 // Reads a model that is made up here: walls with placements, shapes, three property sets and quantities each. With
 // --large a model of 200 MB is read too.
 
 namespace {
-
-std::atomic<std::size_t> used{0};
-std::atomic<std::size_t> peak{0};
-
-void Count(void* memory) {
-  const std::size_t now = used.fetch_add(malloc_usable_size(memory)) + malloc_usable_size(memory);
-  for (std::size_t before = peak.load(); before < now && !peak.compare_exchange_weak(before, now);) {
-  }
-}
 
 class ModelText {
  public:
@@ -74,7 +61,7 @@ class ModelText {
 
 void Report(benchmark::State& state, std::size_t size, std::size_t before) {
   state.SetBytesProcessed(static_cast<std::int64_t>(size) * state.iterations());
-  state.counters["peak bytes per byte"] = static_cast<double>(peak - before) / static_cast<double>(size);
+  state.counters["peak bytes per byte"] = static_cast<double>(GetPeakMemory() - before) / static_cast<double>(size);
 }
 
 std::string MakeText(benchmark::State& state) {
@@ -84,14 +71,14 @@ std::string MakeText(benchmark::State& state) {
 // Copying the text takes the place of reading it from the system.
 void ReadIndex(benchmark::State& state) {
   const std::string text = MakeText(state);
-  const std::size_t before = peak = used.load();
+  const std::size_t before = ResetPeakMemory();
   for (auto _ : state) benchmark::DoNotOptimize(Host::StepFile::FromText(text));
   Report(state, text.size(), before);
 }
 
 void ReadModel(benchmark::State& state) {
   const std::string text = MakeText(state);
-  const std::size_t before = peak = used.load();
+  const std::size_t before = ResetPeakMemory();
   for (auto _ : state) benchmark::DoNotOptimize(Host::IfcModel(Host::StepFile::FromText(text)));
   Report(state, text.size(), before);
 }
@@ -109,19 +96,6 @@ void FindValues(benchmark::State& state) {
 }
 
 }  // namespace
-
-void* operator new(std::size_t size) {
-  void* memory = std::malloc(size == 0 ? 1 : size);
-  if (memory == nullptr) throw std::bad_alloc();
-  Count(memory);
-  return memory;
-}
-
-void operator delete(void* memory) noexcept {
-  used -= memory == nullptr ? 0 : malloc_usable_size(memory);
-  std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept { operator delete(memory); }
 
 int main(int argumentCount, char** arguments) {
   const bool large = argumentCount > 1 && std::string(arguments[1]) == "--large";
