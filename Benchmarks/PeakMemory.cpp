@@ -1,9 +1,8 @@
 #include "PeakMemory.hpp"
 
-#include <malloc.h>
-
 #include <atomic>
 #include <cstdlib>
+#include <malloc.h>
 #include <new>
 
 namespace {

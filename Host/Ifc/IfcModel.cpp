@@ -63,8 +63,8 @@ TW::UniString IfcModel::GetStorey(Element element) const {
 
 TW::Optional<IfcModel::Key> IfcModel::FindKey(std::u16string_view path) const {
   for (std::size_t dot = path.find(u'.'); dot != std::u16string_view::npos; dot = path.find(u'.', dot + 1)) {
-    const TW::Optional<Name> set = names_.Find(path.substr(0, dot));
-    const TW::Optional<Name> property = names_.Find(path.substr(dot + 1));
+    const TW::Optional<Name> set = setNames_.Find(path.substr(0, dot));
+    const TW::Optional<Name> property = propertyNames_.Find(path.substr(dot + 1));
     if (set && property) return Key{*set, *property};
   }
   return {};

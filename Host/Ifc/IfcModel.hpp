@@ -20,8 +20,8 @@ namespace Host {
 /// The elements of an IFC building model (IFC2X3, IFC4, IFC4X3) with their properties and quantities. Elements are all
 /// products of the classes of which the model gives some product properties or a type, in the order of the file.
 ///
-/// Owns the file. Texts and values are read from it when they are asked for, which any number of threads may do at once.
-/// What is wrong with the file is told by its messages; the model then holds what could be read.
+/// Owns the file. Texts and values are read from it when they are asked for, which any number of threads may do at
+/// once. What is wrong with the file is told by its messages; the model then holds what could be read.
 class IfcModel {
  public:
   using Element = std::uint32_t;  ///< from 0
@@ -56,7 +56,8 @@ class IfcModel {
 
   /// The key of `SetName.PropertyName`, or nothing when no element has such names. Both may hold full stops.
   TW::Optional<Key> FindKey(std::u16string_view path) const;
-  const TW::UniString& GetText(Name name) const { return names_.GetText(name); }
+  const TW::UniString& GetSetName(Key key) const { return setNames_.GetText(key.set); }
+  const TW::UniString& GetPropertyName(Key key) const { return propertyNames_.GetText(key.property); }
   /// The instance of a property or quantity that the element or, where it has none of these names, its type has.
   TW::Optional<Place> FindProperty(Element element, Key key) const;
   /// The value of a property, or nothing when neither the element nor its type has it.
@@ -94,7 +95,8 @@ class IfcModel {
   StepFile file_;
   IfcPropertyReader reader_;
   IfcUnits units_;
-  IfcNames names_;
+  IfcNames setNames_;
+  IfcNames propertyNames_;
   std::vector<ElementRecord> elements_;
   std::vector<Place> types_;  ///< ascending
   std::vector<SetRecord> sets_;

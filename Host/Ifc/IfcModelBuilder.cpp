@@ -30,11 +30,12 @@ constexpr unsigned int QuantitiesArgument = 5;
 
 // Objects of these classes may look as a product does where they leave out what they have.
 bool IsNoProduct(std::string_view name) {
-  constexpr std::string_view Names[] = {
-      "IFCACTIONREQUEST", "IFCASSET",     "IFCCOSTITEM", "IFCCOSTSCHEDULE",         "IFCEVENT",
-      "IFCINVENTORY",     "IFCMOVE",      "IFCPERMIT",   "IFCPERFORMANCEHISTORY",   "IFCPROCEDURE",
-      "IFCPROJECT",       "IFCPROJECTLIBRARY", "IFCPROJECTORDER", "IFCTASK",        "IFCWORKCALENDAR",
-      "IFCWORKPLAN",      "IFCWORKSCHEDULE"};
+  constexpr std::string_view Names[] = {"IFCACTIONREQUEST", "IFCASSET",       "IFCCOSTITEM",
+                                        "IFCCOSTSCHEDULE",  "IFCEVENT",       "IFCINVENTORY",
+                                        "IFCMOVE",          "IFCPERMIT",      "IFCPERFORMANCEHISTORY",
+                                        "IFCPROCEDURE",     "IFCPROJECT",     "IFCPROJECTLIBRARY",
+                                        "IFCPROJECTORDER",  "IFCTASK",        "IFCWORKCALENDAR",
+                                        "IFCWORKPLAN",      "IFCWORKSCHEDULE"};
   return name.ends_with("TYPE") || name.ends_with("STYLE") || name.ends_with("RESOURCE") ||
          std::find(std::begin(Names), std::end(Names), name) != std::end(Names);
 }
@@ -167,7 +168,8 @@ void IfcModelBuilder::LinkTypes() {
   for (const Pair& pair : typesOfObjects_) model_.types_.push_back(pair.value);
   SortUnique(model_.types_);
   for (IfcModel::ElementRecord& element : model_.elements_)
-    if (const Pair* pair = FindOwner(typesOfObjects_, element.place)) element.type = FindIndex(model_.types_, pair->value);
+    if (const Pair* pair = FindOwner(typesOfObjects_, element.place))
+      element.type = FindIndex(model_.types_, pair->value);
   typesOfObjects_ = {};
   for (std::uint32_t i = 0; i < model_.types_.size(); ++i) {
     const Place type = model_.types_[i];
@@ -211,7 +213,8 @@ void IfcModelBuilder::ReadSets() {
     for (const Pair& pair : *pairs) setPlaces_.push_back(pair.value);
   SortUnique(setPlaces_);
   for (const Place place : setPlaces_) ReadSet(place);
-  model_.names_.ForgetFile();
+  model_.setNames_.ForgetFile();
+  model_.propertyNames_.ForgetFile();
   LinkSets(setsOfObjects_, model_.setsOfElements_, model_.elements_.size());
   LinkSets(setsOfTypes_, model_.setsOfTypes_, model_.types_.size());
 }
@@ -219,14 +222,14 @@ void IfcModelBuilder::ReadSets() {
 void IfcModelBuilder::ReadSet(Place place) {
   const std::string_view name = file_.GetClasses().GetName(file_.GetClass(place));
   const bool isSet = name == "IFCPROPERTYSET";
-  IfcModel::SetRecord set{model_.names_.Add({}), static_cast<std::uint32_t>(model_.properties_.size())};
+  IfcModel::SetRecord set{0, static_cast<std::uint32_t>(model_.properties_.size())};
   if (isSet || name == "IFCELEMENTQUANTITY") {
     StepCursor arguments = file_.GetArguments(place);
-    set.name = model_.names_.Add(arguments.NextAfter(NameArgument).text);
+    set.name = model_.setNames_.Add(arguments.NextAfter(NameArgument).text);
     const StepValue list = arguments.NextAfter((isSet ? PropertiesArgument : QuantitiesArgument) - NameArgument - 1);
     for (const Place property : ReadReferences(place, list)) {
       if (!model_.reader_.IsProperty(file_.GetClass(property))) continue;
-      model_.properties_.push_back({model_.names_.Add(file_.GetArguments(property).Next().text), property});
+      model_.properties_.push_back({model_.propertyNames_.Add(file_.GetArguments(property).Next().text), property});
     }
     set.end = static_cast<std::uint32_t>(model_.properties_.size());
   }

@@ -103,7 +103,8 @@ IfcValue MakeEnumeration(std::string_view name) {
 // The unit of one argument, which is used only where it measures what the value is.
 class UnitOfValue {
  public:
-  UnitOfValue(const StepFile& file, const IfcUnits& units, const StepValue& own) : file_(file), units_(units), own_(own) {}
+  UnitOfValue(const StepFile& file, const IfcUnits& units, const StepValue& own)
+      : file_(file), units_(units), own_(own) {}
 
   double GetFactor(IfcKind kind) const {
     const TW::Optional<StepFile::Place> place = file_.Find(own_);

@@ -27,8 +27,9 @@ constexpr UnitKind UnitKinds[] = {
 constexpr std::size_t KindCount = std::size(UnitKinds);
 
 constexpr std::pair<std::string_view, int> Prefixes[] = {
-    {"EXA", 18},   {"PETA", 15},  {"TERA", 12},  {"GIGA", 9},   {"MEGA", 6},   {"KILO", 3},    {"HECTO", 2},  {"DECA", 1},
-    {"DECI", -1},  {"CENTI", -2}, {"MILLI", -3}, {"MICRO", -6}, {"NANO", -9},  {"PICO", -12},  {"FEMTO", -15}, {"ATTO", -18},
+    {"EXA", 18},  {"PETA", 15},  {"TERA", 12},   {"GIGA", 9},   {"MEGA", 6},   {"KILO", 3},
+    {"HECTO", 2}, {"DECA", 1},   {"DECI", -1},   {"CENTI", -2}, {"MILLI", -3}, {"MICRO", -6},
+    {"NANO", -9}, {"PICO", -12}, {"FEMTO", -15}, {"ATTO", -18},
 };
 
 std::size_t IndexOf(IfcKind kind) {
@@ -122,7 +123,8 @@ TW::Optional<IfcUnit> ReadIfcUnit(const StepFile& file, StepFile::Place place) {
       unit->factor *= factor;
       return std::isfinite(unit->factor) ? unit : TW::Optional<IfcUnit>();
     }
-    const TW::Optional<Conversion> conversion = IsConversion(name) ? ReadConversion(file, arguments) : TW::Optional<Conversion>();
+    const TW::Optional<Conversion> conversion =
+        IsConversion(name) ? ReadConversion(file, arguments) : TW::Optional<Conversion>();
     if (!conversion) return {};
     if (wanted == nullptr) wanted = FindType(StepCursor(arguments).NextAfter(1));
     if (wanted == nullptr) return {};

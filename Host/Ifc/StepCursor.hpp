@@ -11,10 +11,10 @@ namespace Host {
 
 /// What an argument of an instance is.
 enum class StepKind : std::uint8_t {
-  End,          ///< there are no more arguments
-  Broken,       ///< what stands here is no argument; nothing after it is read
-  Absent,       ///< `$`
-  Derived,      ///< `*`
+  End,      ///< there are no more arguments
+  Broken,   ///< what stands here is no argument; nothing after it is read
+  Absent,   ///< `$`
+  Derived,  ///< `*`
   Integer,
   Real,
   Text,
@@ -22,7 +22,7 @@ enum class StepKind : std::uint8_t {
   Enumeration,  ///< `.NAME.`
   Reference,    ///< `#1`
   List,
-  Typed,        ///< an argument in the brackets of a keyword
+  Typed,  ///< an argument in the brackets of a keyword
 };
 
 /// An argument as it stands in the file; a view that lives as long as the text of the file.

@@ -44,7 +44,8 @@ void StepIndex::SortIntoBuckets() {
     return leftId != rightId ? leftId < rightId : left < right;
   };
   const auto begin = order_.begin();
-  for (std::size_t i = 0; i + 1 < buckets_.size(); ++i) std::sort(begin + buckets_[i], begin + buckets_[i + 1], isBefore);
+  for (std::size_t i = 0; i + 1 < buckets_.size(); ++i)
+    std::sort(begin + buckets_[i], begin + buckets_[i + 1], isBefore);
 }
 
 std::vector<StepIndex::Place> StepIndex::DropDuplicates() {

@@ -11,22 +11,22 @@ namespace Host {
 /// What is wrong with a model file.
 enum class StepProblem : std::uint8_t {
   // Nothing can be read.
-  Unreadable,        ///< the system does not give the file
-  NotAStepFile,      ///< the text does not begin as a STEP file does
+  Unreadable,    ///< the system does not give the file
+  NotAStepFile,  ///< the text does not begin as a STEP file does
   NoDataSection,
   // The rest can be read.
-  CutOff,            ///< the file ends before its last section does
-  NoInstance,        ///< a statement of a data section is no instance
-  IdTooLarge,        ///< the number of an instance needs more than 64 bits
-  DuplicateId,       ///< the first instance of the number counts
-  TooManyInstances,  ///< instances after the first 2^32 - 2 are left out
-  UnknownSchema,     ///< the schema is none of IFC2X3, IFC4 and IFC4X3
-  BrokenInstance,    ///< an argument that is needed is missing or of the wrong kind
-  DanglingReference, ///< an instance that is referred to is not there
-  NoLengthUnit,      ///< metres are assumed
-  NoAreaUnit,        ///< square metres are assumed
-  NoVolumeUnit,      ///< cubic metres are assumed
-  NoAngleUnit,       ///< radians are assumed
+  CutOff,             ///< the file ends before its last section does
+  NoInstance,         ///< a statement of a data section is no instance
+  IdTooLarge,         ///< the number of an instance needs more than 64 bits
+  DuplicateId,        ///< the first instance of the number counts
+  TooManyInstances,   ///< instances after the first 2^32 - 2 are left out
+  UnknownSchema,      ///< the schema is none of IFC2X3, IFC4 and IFC4X3
+  BrokenInstance,     ///< an argument that is needed is missing or of the wrong kind
+  DanglingReference,  ///< an instance that is referred to is not there
+  NoLengthUnit,       ///< metres are assumed
+  NoAreaUnit,         ///< square metres are assumed
+  NoVolumeUnit,       ///< cubic metres are assumed
+  NoAngleUnit,        ///< radians are assumed
 };
 
 struct StepMessage {

@@ -36,9 +36,7 @@ class StepStatements {
     if (slash_ < at) slash_ = FindStepByte(text_, '/', at);
   }
 
-  std::size_t PassSlash() const {
-    return IsStepComment(text_, slash_) ? SkipStepComment(text_, slash_) : slash_ + 1;
-  }
+  std::size_t PassSlash() const { return IsStepComment(text_, slash_) ? SkipStepComment(text_, slash_) : slash_ + 1; }
 
   std::string_view text_;
   std::size_t semicolon_;  ///< the first at or after the last position asked for; likewise the others

@@ -136,8 +136,8 @@ class Decoder {
     return true;
   }
 
-  // All of the run or nothing: a run that is not closed, or that holds something else, stands for itself. How far digits
-  // reach is looked at once, so that many runs without an end cost no more than their length.
+  // All of the run or nothing: a run that is not closed, or that holds something else, stands for itself. How far
+  // digits reach is looked at once, so that many runs without an end cost no more than their length.
   bool TakeHexRun(std::size_t width) {
     const std::string_view run = rest_.substr(4);
     std::size_t length = 0;
