@@ -51,6 +51,8 @@ class StepCursor {
   StepValue Next();
   /// Passes over `count` arguments and reads the one after them.
   StepValue NextAfter(unsigned int count);
+  /// The text from where reading goes on: after the last argument, from the closing bracket. Empty after a broken one.
+  std::string_view GetRest() const { return text_.substr(at_); }
 
  private:
   StepValue Read();
