@@ -24,9 +24,8 @@ bool ReadWhole(const std::string& path, std::string& text) {
   const std::uintmax_t size = std::filesystem::file_size(path, error);
   std::size_t used = 0;
   text.resize(error ? Step : static_cast<std::size_t>(size) + 1);
-  while (const std::size_t count = std::fread(text.data() + used, 1, text.size() - used, file.get())) {
-    used += count;
-    if (used == text.size()) text.resize(used + used / 2 + Step);
+  while ((used += std::fread(text.data() + used, 1, text.size() - used, file.get())) == text.size()) {
+    text.resize(used + used / 2 + Step);
   }
   text.resize(used);
   return std::ferror(file.get()) == 0;
