@@ -45,7 +45,8 @@ bool IsReferenceOrAbsent(const StepValue& value) {
 }
 
 void SortByOwner(std::vector<IfcSpans::Pair>& pairs) {
-  std::stable_sort(pairs.begin(), pairs.end(), [](const auto& a, const auto& b) { return a.owner < b.owner; });
+  std::sort(pairs.begin(), pairs.end(),
+            [](const auto& a, const auto& b) { return a.owner != b.owner ? a.owner < b.owner : a.value < b.value; });
 }
 
 const IfcSpans::Pair* FindOwner(const std::vector<IfcSpans::Pair>& pairs, std::uint32_t owner) {

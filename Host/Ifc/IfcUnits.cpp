@@ -13,16 +13,16 @@ using Place = StepFile::Place;
 struct UnitKind {
   std::string_view type;  ///< as units name what they measure
   std::string_view siName;
-  IfcKind kind;
   int power;  ///< of a prefix
+  IfcKind kind;
   StepProblem missing;
 };
 
 constexpr UnitKind UnitKinds[] = {
-    {"LENGTHUNIT", "METRE", IfcKind::Length, 1, StepProblem::NoLengthUnit},
-    {"AREAUNIT", "SQUARE_METRE", IfcKind::Area, 2, StepProblem::NoAreaUnit},
-    {"VOLUMEUNIT", "CUBIC_METRE", IfcKind::Volume, 3, StepProblem::NoVolumeUnit},
-    {"PLANEANGLEUNIT", "RADIAN", IfcKind::Angle, 1, StepProblem::NoAngleUnit},
+    {"LENGTHUNIT", "METRE", 1, IfcKind::Length, StepProblem::NoLengthUnit},
+    {"AREAUNIT", "SQUARE_METRE", 2, IfcKind::Area, StepProblem::NoAreaUnit},
+    {"VOLUMEUNIT", "CUBIC_METRE", 3, IfcKind::Volume, StepProblem::NoVolumeUnit},
+    {"PLANEANGLEUNIT", "RADIAN", 1, IfcKind::Angle, StepProblem::NoAngleUnit},
 };
 constexpr std::size_t KindCount = std::size(UnitKinds);
 

@@ -8,6 +8,7 @@
 #include <charconv>
 #include <cstdint>
 #include <filesystem>
+#include <span>
 #include <string_view>
 #include <system_error>
 #include <unistd.h>
@@ -101,28 +102,31 @@ class ModelWriter {
     if (end > 0 && text[end - 1] != '\n') Put("\n");
   }
 
-  void WriteElement(IfcModel::Element element, std::vector<IfcAddedProperty> properties) {
-    std::erase_if(properties, [](const IfcAddedProperty& property) {
-      return property.value.kind == IfcKind::None || !property.value.value.IsValid();
+  void WriteElement(IfcModel::Element element, const std::vector<IfcAddedProperty>& added) {
+    std::vector<const IfcAddedProperty*> properties;
+    for (const IfcAddedProperty& property : added)
+      if (property.value.kind != IfcKind::None && property.value.value.IsValid()) properties.push_back(&property);
+    // By set, and in a set in the order given.
+    std::sort(properties.begin(), properties.end(), [](const auto* left, const auto* right) {
+      const int order = left->set.Compare(right->set);
+      return order != 0 ? order < 0 : left < right;
     });
-    std::stable_sort(properties.begin(), properties.end(),
-                     [](const auto& left, const auto& right) { return left.set < right.set; });
     for (auto begin = properties.begin(); begin != properties.end();) {
       const auto end =
-          std::find_if(begin, properties.end(), [&](const auto& other) { return other.set != begin->set; });
+          std::find_if(begin, properties.end(), [&](const auto* other) { return other->set != (*begin)->set; });
       WriteSet(element, std::span(begin, end));
       begin = end;
     }
   }
 
-  void WriteSet(IfcModel::Element element, std::span<const IfcAddedProperty> properties) {
+  void WriteSet(IfcModel::Element element, std::span<const IfcAddedProperty* const> properties) {
     std::string list;
-    for (const IfcAddedProperty& property : properties) {
-      WriteInstance("IFCPROPERTYSINGLEVALUE('" + EncodeStepText(property.name) + "',$," +
-                    WriteValue(property.value, model_.GetUnits()) + ",$)");
+    for (const IfcAddedProperty* property : properties) {
+      WriteInstance("IFCPROPERTYSINGLEVALUE('" + EncodeStepText(property->name) + "',$," +
+                    WriteValue(property->value, model_.GetUnits()) + ",$)");
       list += (list.empty() ? "#" : ",#") + std::to_string(lastId_);
     }
-    const TW::UniString& name = properties.front().set;
+    const TW::UniString& name = properties.front()->set;
     const IfcAddedSetIds ids = MakeIfcAddedSetIds(model_.GetGlobalId(element).ToUtf8(), name.ToUtf8());
     const std::string owner = GetOwner(element);
     WriteInstance("IFCPROPERTYSET('" + ids.set + "'," + owner + ",'" + EncodeStepText(name) + "',$,(" + list + "))");

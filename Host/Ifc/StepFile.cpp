@@ -24,9 +24,9 @@ bool ReadWhole(const std::string& path, std::string& text) {
   const std::uintmax_t size = std::filesystem::file_size(path, error);
   std::size_t used = 0;
   text.resize(error ? Step : static_cast<std::size_t>(size) + 1);
-  while (const std::size_t count = std::fread(text.data() + used, 1, text.size() - used, file.get())) {
-    used += count;
+  while (std::feof(file.get()) == 0 && std::ferror(file.get()) == 0) {
     if (used == text.size()) text.resize(used + used / 2 + Step);
+    used += std::fread(text.data() + used, 1, text.size() - used, file.get());
   }
   text.resize(used);
   return std::ferror(file.get()) == 0;
