@@ -52,12 +52,13 @@ class LineEditor::Terminal {
  public:
   explicit Terminal(std::function<Completion(const TW::UniString&)> complete)
       : complete_(std::move(complete)), historyFile_(GetHistoryFile()) {
-    // The editor learns from the locale how characters are encoded; everything else stays as in "C".
-    std::setlocale(LC_CTYPE, "");
+    // The editor learns from the locale how characters are encoded. This program reads and writes UTF-8 everywhere.
+    if (std::setlocale(LC_CTYPE, "C.UTF-8") == nullptr) std::setlocale(LC_CTYPE, "");
     editor_ = el_init("quorix", stdin, stdout, stderr);
     el_set(editor_, EL_CLIENTDATA, this);
     el_set(editor_, EL_PROMPT, GetPrompt);
     el_set(editor_, EL_EDITOR, "emacs");
+    el_set(editor_, EL_SIGNAL, 1);
     SetKeys();
     SetHistory();
     el_source(editor_, nullptr);
@@ -131,7 +132,7 @@ class LineEditor::Terminal {
     const Completion completion = complete_(TW::UniString::FromUtf8(before));
     if (completion.words.empty()) return CC_ERROR;
     const TW::UniString common = GetCommonBeginning(completion.words);
-    if (common.GetLength() < completion.typed.GetLength() || (common == completion.typed)) {
+    if (common.GetLength() < completion.typed.GetLength() || common == completion.typed) {
       if (completion.words.size() == 1) return CC_ERROR;
       List(completion.words);
       return CC_REDISPLAY;
