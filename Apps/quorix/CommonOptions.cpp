@@ -73,8 +73,8 @@ ExpressionValue ReadValue(std::string_view name, std::string_view text, const En
   Evaluation evaluation = Evaluate(TW::UniString::FromUtf8(text), environment);
   if (!evaluation.failure && evaluation.value.IsValid()) return std::move(evaluation.value);
   const std::string reason = evaluation.failure ? ": " + evaluation.failure->message.ToUtf8() : ".";
-  throw UsageError("The value '" + std::string(text) + "' of the property '" + std::string(name) + "' has no result" +
-                   reason);
+  throw UsageError("The option '--set' needs a value that can be evaluated; '" + std::string(text) + "' of '" +
+                   std::string(name) + "' cannot" + reason);
 }
 
 }  // namespace

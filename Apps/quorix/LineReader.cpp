@@ -12,6 +12,11 @@ namespace {
 constexpr std::size_t InitialSize = std::size_t{256} * 1024;
 constexpr std::size_t NotFound = static_cast<std::size_t>(-1);
 
+std::string_view RemoveCarriageReturn(std::string_view line) {
+  if (line.ends_with('\r')) line.remove_suffix(1);
+  return line;
+}
+
 bool IsReadable(int descriptor) {
   pollfd poll = {descriptor, POLLIN, 0};
   return ::poll(&poll, 1, 0) != 0;
@@ -26,7 +31,9 @@ LineReader::Outcome LineReader::Next(std::string_view& line) {
   for (;;) {
     if (const std::size_t end = FindLineEnd(); end != NotFound) {
       line = TakeLine(end);
-      return line.size() > longestLine_ ? Outcome::TooLong : Outcome::Line;
+      if (line.size() > longestLine_) return Outcome::TooLong;
+      line = RemoveCarriageReturn(line);
+      return Outcome::Line;
     }
     if (end_ - begin_ > longestLine_) return PassOverLine();
     if (!Fill()) break;
