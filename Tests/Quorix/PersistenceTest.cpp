@@ -252,12 +252,12 @@ TEST(Persistence, WhatNoTextGivesFailsWhenItIsEvaluated) {
   }
 }
 
-// Does everything with a formula that broken bytes gave.
+// Does everything with a formula that broken bytes gave. What is to be repeated is not evaluated: the bytes may ask for
+// gigabytes.
 void Use(const Expression& expression) {
   const TestHost host;
   try {
-    Render(expression);
-    expression.Evaluate(host);
+    if (!Render(expression).Contains(u"REPT")) expression.Evaluate(host);
   } catch (const QX::ExpressionSemanticException& error) {
     EXPECT_NE(error.GetSource(), nullptr);
   }
