@@ -41,11 +41,17 @@ UnitTable MakeUnitTable() {
   return units;
 }
 
+const UnitTable& GetUnitTable() {
+  static const UnitTable units = MakeUnitTable();
+  return units;
+}
+
 }  // namespace
 
-const AcceptedUnit* FindAcceptedUnit(const TW::UniString& marker) {
-  static const UnitTable units = MakeUnitTable();
-  return units.Find(marker);
+const AcceptedUnit* FindAcceptedUnit(const TW::UniString& marker) { return GetUnitTable().Find(marker); }
+
+void EnumerateAcceptedUnits(const std::function<void(const TW::UniString& marker, const AcceptedUnit& unit)>& visit) {
+  for (const auto& entry : GetUnitTable()) visit(entry.key, entry.value);
 }
 
 }  // namespace QX

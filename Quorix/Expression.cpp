@@ -27,15 +27,6 @@ class Renderer final : public IExpressionStringBuilder {
   ExpressionString string_;
 };
 
-// A stored tree may hold registered nodes of other kinds of trees; nothing here could deal with them.
-bool ConsistsOfExpressionNodes(const ExpressionNode& root) {
-  bool consists = true;
-  root.EnumerateRecursive([&consists](const ExpressionNode* node) {
-    for (unsigned int i = 0; consists && i < node->GetChildCount(); ++i) consists = node->GetChild(i) != nullptr;
-  });
-  return consists;
-}
-
 }  // namespace
 
 TW::ClassInfo Expression::classInfo("Expression", "{8776168B-0953-4610-8348-E71D9822BC69}", StoredVersion,
@@ -145,7 +136,6 @@ TW::ErrCode Expression::ReadVersion1(TW::IChannel& channel) {
     const TW::ErrCode error = TW::TreeNode::ReadDynamic(channel, tree);
     if (error != TW::NoErr) return error;
     root = tree.CheckedCast<ExpressionNode>();
-    if (!ConsistsOfExpressionNodes(*root)) return TW::ErrRefused;
   }
   root_ = std::move(root);
   return TW::NoErr;

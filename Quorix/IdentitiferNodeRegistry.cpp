@@ -26,14 +26,16 @@ IdentitiferNodeRegistry::IdentitiferNodeRegistry() {
   identifiers_.Add(KeyOf(EP::PiConstant), {ExpressionValue::FromNumber(std::numbers::pi), 3});
 }
 
-const IdentifierData* IdentitiferNodeRegistry::Find(const TW::UniString& name) const {
+const IdentifierData* IdentitiferNodeRegistry::FindIdentifierData(const TW::UniString& name) const {
   return identifiers_.Find(NormalizeName(name));
 }
 
-bool IdentitiferNodeRegistry::IsExistingIdentifier(const TW::UniString& name) const { return Find(name) != nullptr; }
+bool IdentitiferNodeRegistry::IsExistingIdentifier(const TW::UniString& name) const {
+  return FindIdentifierData(name) != nullptr;
+}
 
 ExpressionValue IdentitiferNodeRegistry::GetIdentifierValue(const TW::UniString& name) const {
-  const IdentifierData* data = Find(name);
+  const IdentifierData* data = FindIdentifierData(name);
   return data != nullptr ? data->value : ExpressionValue::FromInteger(0);
 }
 
@@ -42,7 +44,7 @@ const IdentifierData& IdentitiferNodeRegistry::GetIdentifierData(const TW::UniSt
 }
 
 TW::UniString IdentitiferNodeRegistry::GetIdentifierUIName(const TW::UniString& name) const {
-  const IdentifierData* data = Find(name);
+  const IdentifierData* data = FindIdentifierData(name);
   if (data == nullptr) return {};
   return TW::UniString::Printf(GetResourceString(IdentifierNameList, data->uiNameIndex), name);
 }

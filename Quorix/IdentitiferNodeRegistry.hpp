@@ -30,9 +30,10 @@ class QX_EXPORT IdentitiferNodeRegistry {
   /// Calls `visit` for every constant, in upper case, always in the same order.
   void EnumerateIdentifiers(const std::function<void(const TW::UniString&)>& visit) const;
 
- private:
-  const IdentifierData* Find(const TW::UniString& name) const;
+  /// What is known of the constant, for as long as the library is loaded, or null for a name that is no constant.
+  const IdentifierData* FindIdentifierData(const TW::UniString& name) const;
 
+ private:
   TW::HashTable<TW::UniString, IdentifierData> identifiers_;
 };
 

@@ -4,6 +4,7 @@
 #include "MemoryLimit.hpp"
 #include "Resources/Language.hpp"
 #include "TW/SystemSymbols.hpp"
+#include "UndefinedValue.hpp"
 #include "UnitNames.hpp"
 
 #include <algorithm>
@@ -15,7 +16,6 @@ namespace Command {
 namespace {
 
 using QX::ExpressionValue;
-using Undefined = ExpressionValue::UndefinedSelector;
 
 void SetLanguage(std::string_view tag) {
   Resources::SetLanguage(tag);
@@ -45,31 +45,8 @@ void ReadUnit(std::string_view name, Unit& unit) {
   if (!FindUnit(TW::UniString::FromUtf8(name), unit)) throw UsageError("must be one of " + GetUnitNames(unit) + ".");
 }
 
-struct UndefinedRow {
-  std::string_view text;
-  ExpressionValue (*make)();
-};
-
-template <int length, int angle>
-ExpressionValue MakeUndefined() {
-  return ExpressionValue::FromQuantity(Undefined(), {length, angle});
-}
-
-constexpr UndefinedRow UndefinedRows[] = {
-    {"undefined number", MakeUndefined<0, 0>},
-    {"undefined integer", [] { return ExpressionValue::FromInteger(Undefined()); }},
-    {"undefined length", MakeUndefined<1, 0>},
-    {"undefined area", MakeUndefined<2, 0>},
-    {"undefined volume", MakeUndefined<3, 0>},
-    {"undefined angle", MakeUndefined<0, 1>},
-    {"undefined text", [] { return ExpressionValue::FromString(Undefined()); }},
-    {"undefined logical", [] { return ExpressionValue::FromBool(Undefined()); }},
-};
-
 ExpressionValue ReadValue(std::string_view name, std::string_view text, const Environment& environment) {
-  for (const UndefinedRow& row : UndefinedRows) {
-    if (row.text == text) return row.make();
-  }
+  if (auto undefined = FindUndefinedValue(text)) return *std::move(undefined);
   Evaluation evaluation = Evaluate(TW::UniString::FromUtf8(text), environment);
   if (!evaluation.failure && evaluation.value.IsValid()) return std::move(evaluation.value);
   const std::string reason = evaluation.failure ? ": " + evaluation.failure->message.ToUtf8() : ".";
@@ -81,7 +58,7 @@ ExpressionValue ReadValue(std::string_view name, std::string_view text, const En
 
 void CommonOptions::AddTo(OptionTable& options) {
   options.AddValue("locale", "TAG", "language of messages, and its separators (default: the environment's)",
-                   [this](std::string_view tag) { SetLanguage(*(locale_ = tag)); });
+                   [this](std::string_view tag) { SetLanguage(*(locale_ = std::string(tag))); });
   AddSeparators(options);
   AddUnits(options);
   options.AddFlag("propagate-undefined", "undefined values come through everywhere",
@@ -140,7 +117,7 @@ Settings CommonOptions::GetSettings(Settings defaults) const {
 Settings CommonOptions::GetUserSettings() const {
   Settings settings;
   if (locale_) {
-    const TW::SystemSymbols symbols = TW::ReadSystemSymbols(std::string(*locale_).c_str());
+    const TW::SystemSymbols symbols = TW::ReadSystemSymbols(locale_->c_str());
     settings.locale = {symbols.decimal, symbols.listSeparator, symbols.digitGrouping};
   } else {
     settings.locale = QX::SystemLocaleSettings();
@@ -150,9 +127,7 @@ Settings CommonOptions::GetUserSettings() const {
 
 void CommonOptions::SetProperties(Environment& environment, PropertyNames& names) const {
   for (const auto& [name, text] : properties_) {
-    const TW::UniString propertyName = TW::UniString::FromUtf8(name);
-    TW::Guid propertyId;
-    if (propertyId.ConvertFromString(propertyName) != TW::NoErr) propertyId = names.GetGuid(propertyName);
+    const TW::Guid propertyId = names.GetPropertyId(TW::UniString::FromUtf8(name));
     environment.SetValue(propertyId, ReadValue(name, text, environment));
   }
 }

@@ -6,6 +6,7 @@
 #include "Settings.hpp"
 #include "TW/Optional.hpp"
 
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -37,7 +38,7 @@ class CommonOptions {
   void AddUnits(OptionTable& options);
   void AddProperty(std::string_view assignment);
 
-  TW::Optional<std::string_view> locale_;
+  TW::Optional<std::string> locale_;
   Separator decimal_;
   Separator list_;
   Separator thousand_;

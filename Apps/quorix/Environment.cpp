@@ -13,9 +13,13 @@ QX::ExpressionUnitConverter MakeConverter(const DisplayUnits& units) {
 
 Environment::Environment(const Settings& settings) : settings_(settings), converter_(MakeConverter(settings.units)) {}
 
-void Environment::Reset(const Settings& settings) {
+void Environment::SetSettings(const Settings& settings) {
   settings_ = settings;
   converter_ = MakeConverter(settings.units);
+}
+
+void Environment::Reset(const Settings& settings) {
+  SetSettings(settings);
   if (!values_.IsEmpty()) values_.Clear();
   if (!statuses_.IsEmpty()) statuses_.Clear();
 }

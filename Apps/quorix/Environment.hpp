@@ -15,11 +15,15 @@ class Environment final : public QX::IExpressionEvaluationEnv {
 
   /// Takes other settings and forgets all properties.
   void Reset(const Settings& settings);
+  /// Takes other settings and keeps the properties.
+  void SetSettings(const Settings& settings);
   void SetValue(const TW::Guid& propertyId, QX::ExpressionValue value) { values_.Put(propertyId, std::move(value)); }
   void SetStatus(const TW::Guid& propertyId, QX::EvaluableStatus status) { statuses_.Put(propertyId, status); }
   /// Makes the property one that has no value.
   void RemoveValue(const TW::Guid& propertyId) { values_.Remove(propertyId); }
 
+  /// The properties that have values.
+  const TW::HashTable<TW::Guid, QX::ExpressionValue>& GetValues() const { return values_; }
   const Settings& GetSettings() const { return settings_; }
 
   QX::EvaluableStatus GetPropertyEvaluableStatus(const TW::Guid& propertyId) const override;

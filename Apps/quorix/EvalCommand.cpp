@@ -1,6 +1,5 @@
 #include "CommandEntry.hpp"
 #include "CommonOptions.hpp"
-#include "DisplayText.hpp"
 #include "Session.hpp"
 
 namespace Command {
@@ -9,20 +8,6 @@ namespace {
 Status Run(const Call& call);
 
 const CommandEntry entry("eval", "FORMULA...", "Shows the value of each formula, one line each", Run);
-
-// Gives whether the formula has a value.
-bool Show(std::string_view argument, bool json, Session& session, const Call& call) {
-  const Session::Formula formula = session.Evaluate(argument);
-  if (json) {
-    session.WriteAnswer(formula);
-  } else if (formula.HasValue()) {
-    const TW::UniString text = GetTextForPeople(formula.evaluation.value, session.GetEnvironment());
-    call.results.GetBuffer() += text.ToUtf8() + "\n";
-  } else {
-    session.WriteDiagnostic(formula);
-  }
-  return formula.HasValue();
-}
 
 Status Run(const Call& call) {
   CommonOptions common;
@@ -35,8 +20,10 @@ Status Run(const Call& call) {
 
   Session session(common, call);
   Status status = Status::Success;
-  for (const std::string_view formula : *formulas) {
-    if (!Show(formula, common.IsJson(), session, call)) status = Status::FormulaFailed;
+  for (const std::string_view argument : *formulas) {
+    const Session::Formula formula = session.Evaluate(argument);
+    session.Show(formula, common.IsJson());
+    if (!formula.HasValue()) status = Status::FormulaFailed;
   }
   return status;
 }

@@ -7,8 +7,8 @@
 
 namespace Command {
 
-/// Cuts what comes from a file descriptor into lines, which end with LF or CR LF. Memory grows with the longest line that it gives, never beyond
-/// the longest that it allows.
+/// Cuts what comes from a file descriptor into lines, which end with LF or CR LF. Memory grows with the longest line
+/// that it gives, never beyond the longest that it allows.
 class LineReader {
  public:
   static constexpr std::size_t DefaultLongestLine = std::size_t{64} * 1024 * 1024;

@@ -79,6 +79,15 @@ TW::Guid PropertyNames::GetGuid(const TW::UniString& name) {
   return guid;
 }
 
+TW::Guid PropertyNames::GetPropertyId(const TW::UniString& property) {
+  TW::Guid guid;
+  if (guid.ConvertFromString(property) == TW::NoErr) return guid;
+  if (QX::IsWellFormedExpressionPropertyReference(property, &guid)) return guid;
+  const std::u16string_view text = property;
+  const bool isBracketed = !text.empty() && text.front() == Opening && FindBracketedName(text).size() == text.size();
+  return GetGuid(isBracketed ? RemoveEscapes(text.substr(1, text.size() - 2)) : property);
+}
+
 ReplacedText PropertyNames::ReplaceNames(const TW::UniString& formula, const EP::IParsingLocaleSettings& settings) {
   ReplacedText replaced;
   std::u16string_view rest = formula;

@@ -14,6 +14,8 @@ class PropertyNames {
  public:
   /// The GUID that stands for a name, the same at every time and place.
   TW::Guid GetGuid(const TW::UniString& name);
+  /// The GUID of a property that is given by its name, with or without brackets, or by its GUID.
+  TW::Guid GetPropertyId(const TW::UniString& property);
 
   /// The formula with GUIDs in the place of names. Quoted texts and references by GUID stay.
   ReplacedText ReplaceNames(const TW::UniString& formula, const EP::IParsingLocaleSettings& settings);

@@ -2,7 +2,9 @@
 
 #include "Answer.hpp"
 #include "Diagnostic.hpp"
+#include "DisplayText.hpp"
 #include "JsonWriter.hpp"
+#include "TreePrinter.hpp"
 
 namespace Command {
 
@@ -20,6 +22,23 @@ Session::Formula Session::Evaluate(std::string_view argument) {
   auto& failure = formula.evaluation.failure;
   if (failure) failure->place = formula.text.ToOriginal(failure->place);
   return formula;
+}
+
+void Session::Show(const Formula& formula, bool json) {
+  if (json) return WriteAnswer(formula);
+  if (!formula.HasValue()) return WriteDiagnostic(formula);
+  call_.results.GetBuffer() += GetTextForPeople(formula.evaluation.value, environment_).ToUtf8() + "\n";
+}
+
+void Session::ShowTree(const Formula& formula, bool json) {
+  const bool hasTree = formula.evaluation.expression.IsValid();
+  if (json && !hasTree) return WriteAnswer(formula);
+  if (hasTree) {
+    TreePrinter printer(formula.evaluation, environment_);
+    if (json) return printer.AppendJson(call_.results.GetBuffer());
+    printer.AppendTable(call_.results.GetBuffer(), names_);
+  }
+  if (!formula.HasValue()) WriteDiagnostic(formula);
 }
 
 void Session::WriteAnswer(const Formula& formula) {

@@ -11,7 +11,7 @@
 
 namespace Command {
 
-/// Formulas that a person gave as arguments, with the options for all of them.
+/// Formulas that a person gives, with the options for all of them.
 class Session {
  public:
   struct Formula {
@@ -25,16 +25,21 @@ class Session {
   /// Keeps a reference to `call`. Throws `UsageError` for a property without a value.
   Session(const CommonOptions& options, const Call& call);
 
-  const Environment& GetEnvironment() const { return environment_; }
-  const PropertyNames& GetNames() const { return names_; }
+  Environment& GetEnvironment() { return environment_; }
+  PropertyNames& GetNames() { return names_; }
 
   Formula Evaluate(std::string_view argument);
+  /// Writes the value of a formula, or tells why it has none.
+  void Show(const Formula& formula, bool json);
+  /// Writes the tree of a formula, and tells why it has no value if so.
+  void ShowTree(const Formula& formula, bool json);
+
+ private:
   /// Writes the answer of a formula as a line of JSON.
   void WriteAnswer(const Formula& formula);
   /// Tells why a formula has no value.
   void WriteDiagnostic(const Formula& formula);
 
- private:
   const Call& call_;
   Environment environment_;
   PropertyNames names_;

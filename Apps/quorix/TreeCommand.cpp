@@ -1,7 +1,6 @@
 #include "CommandEntry.hpp"
 #include "CommonOptions.hpp"
 #include "Session.hpp"
-#include "TreePrinter.hpp"
 
 namespace Command {
 namespace {
@@ -9,12 +8,6 @@ namespace {
 Status Run(const Call& call);
 
 const CommandEntry entry("tree", "FORMULA", "Shows the tree of a formula, with the value of each node", Run);
-
-void PrintTree(const Session& session, const Session::Formula& formula, bool json, std::string& out) {
-  TreePrinter printer(formula.evaluation, session.GetEnvironment());
-  if (json) return printer.AppendJson(out);
-  printer.AppendTable(out, session.GetNames());
-}
 
 Status Run(const Call& call) {
   CommonOptions common;
@@ -27,14 +20,8 @@ Status Run(const Call& call) {
 
   Session session(common, call);
   const Session::Formula formula = session.Evaluate(operands->front());
-  if (formula.evaluation.expression.IsValid()) {
-    PrintTree(session, formula, common.IsJson(), call.results.GetBuffer());
-  } else if (common.IsJson()) {
-    session.WriteAnswer(formula);
-  }
-  if (formula.HasValue()) return Status::Success;
-  if (!common.IsJson()) session.WriteDiagnostic(formula);
-  return Status::FormulaFailed;
+  session.ShowTree(formula, common.IsJson());
+  return formula.HasValue() ? Status::Success : Status::FormulaFailed;
 }
 
 }  // namespace

@@ -54,23 +54,6 @@ TW::ClassInfo ExpressionBinaryOpNode::classInfo("ExpressionBinaryOpNode", "{B51D
 TW::ClassInfo ExpressionArithmeticBinaryOpNode::classInfo("ExpressionArithmeticBinaryOpNode",
                                                           "{1F110BCB-4DB3-4DA9-BD1A-96287C2A6A1D}", 1,
                                                           &ExpressionBinaryOpNode::classInfo);
-TW::ClassInfo ExpressionAdditionNode::classInfo("ExpressionAdditionNode", "{3922D3C4-8885-4367-AA4F-74FBF0D8C42A}", 1,
-                                                &ExpressionArithmeticBinaryOpNode::classInfo,
-                                                &ExpressionAdditionNode::ConstructorFunction);
-TW::ClassInfo ExpressionSubtractionNode::classInfo("ExpressionSubtractionNode",
-                                                   "{1AC4CD94-0FB8-4131-B724-621DBD52FA04}", 1,
-                                                   &ExpressionArithmeticBinaryOpNode::classInfo,
-                                                   &ExpressionSubtractionNode::ConstructorFunction);
-TW::ClassInfo ExpressionMultiplicationNode::classInfo("ExpressionMultiplicationNode",
-                                                      "{C411BBC5-407D-4771-8371-005796C05FBB}", 1,
-                                                      &ExpressionArithmeticBinaryOpNode::classInfo,
-                                                      &ExpressionMultiplicationNode::ConstructorFunction);
-TW::ClassInfo ExpressionDivisionNode::classInfo("ExpressionDivisionNode", "{EAD27A61-36F5-45AB-BEF1-8E8A47F2819C}", 1,
-                                                &ExpressionArithmeticBinaryOpNode::classInfo,
-                                                &ExpressionDivisionNode::ConstructorFunction);
-TW::ClassInfo ExpressionPowerNode::classInfo("ExpressionPowerNode", "{7A70BCD6-BFE8-4313-A434-5D1CA17318F3}", 1,
-                                             &ExpressionArithmeticBinaryOpNode::classInfo,
-                                             &ExpressionPowerNode::ConstructorFunction);
 
 ExpressionValue ExpressionBinaryOpNode::Evaluate(const IExpressionEvaluationEnv& env) const {
   return EvaluateChain(env, FollowLeftOperands(this));
@@ -123,54 +106,35 @@ Quantity ExpressionArithmeticBinaryOpNode::ComputeChain(const IExpressionEvaluat
   return result;
 }
 
-TW::Ref<TW::Object> ExpressionAdditionNode::ConstructorFunction() { return TW::MakeRef<ExpressionAdditionNode>(); }
-
-TW::UniString ExpressionAdditionNode::GetOperatorSign() const { return TW::UniString(EP::Add); }
-
+TW::ClassInfo ExpressionAdditionNode::classInfo = MakeClassInfo();
 Quantity ExpressionAdditionNode::GetOperationResult(const Quantity& left, const Quantity& right) const {
   Quantity sum;
   if (!Quantity::Add(left, right, sum)) throw ExpressionIncompatibleArgumentDimensions(this);
   return sum;
 }
 
-TW::Ref<TW::Object> ExpressionSubtractionNode::ConstructorFunction() {
-  return TW::MakeRef<ExpressionSubtractionNode>();
-}
-
-TW::UniString ExpressionSubtractionNode::GetOperatorSign() const { return TW::UniString(EP::Subtract); }
-
+TW::ClassInfo ExpressionSubtractionNode::classInfo = MakeClassInfo();
 Quantity ExpressionSubtractionNode::GetOperationResult(const Quantity& left, const Quantity& right) const {
   Quantity difference;
   if (!Quantity::Subtract(left, right, difference)) throw ExpressionIncompatibleArgumentDimensions(this);
   return difference;
 }
 
-TW::Ref<TW::Object> ExpressionMultiplicationNode::ConstructorFunction() {
-  return TW::MakeRef<ExpressionMultiplicationNode>();
-}
-
-TW::UniString ExpressionMultiplicationNode::GetOperatorSign() const { return TW::UniString(EP::Multiply); }
-
+TW::ClassInfo ExpressionMultiplicationNode::classInfo = MakeClassInfo();
 Quantity ExpressionMultiplicationNode::GetOperationResult(const Quantity& left, const Quantity& right) const {
   Quantity product;
   if (!Quantity::Multiply(left, right, product)) throw ExpressionInternalErrorException(this);
   return product;
 }
 
-TW::Ref<TW::Object> ExpressionDivisionNode::ConstructorFunction() { return TW::MakeRef<ExpressionDivisionNode>(); }
-
-TW::UniString ExpressionDivisionNode::GetOperatorSign() const { return TW::UniString(EP::Divide); }
-
+TW::ClassInfo ExpressionDivisionNode::classInfo = MakeClassInfo();
 Quantity ExpressionDivisionNode::GetOperationResult(const Quantity& left, const Quantity& right) const {
   Quantity quotient;
   if (!Quantity::Divide(left, right, quotient)) throw ExpressionDivisionByZero(this);
   return quotient;
 }
 
-TW::Ref<TW::Object> ExpressionPowerNode::ConstructorFunction() { return TW::MakeRef<ExpressionPowerNode>(); }
-
-TW::UniString ExpressionPowerNode::GetOperatorSign() const { return TW::UniString(EP::Power); }
-
+TW::ClassInfo ExpressionPowerNode::classInfo = MakeClassInfo();
 Quantity ExpressionPowerNode::GetOperationResult(const Quantity& left, const Quantity& right) const {
   return PowerFuncImpl(left, right, this);
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "EP/TextConstants.hpp"
 #include "Quorix/ExpressionNodes/ExpressionNode.hpp"
+#include "Quorix/ExpressionNodes/ExpressionOperatorImpl.hpp"
 #include "Quorix/Quantity.hpp"
 
 namespace QX {
@@ -52,49 +54,49 @@ class QX_EXPORT ExpressionArithmeticBinaryOpNode : public ExpressionBinaryOpNode
   Quantity ComputeChain(const IExpressionEvaluationEnv& env) const;
 };
 
-class QX_EXPORT ExpressionAdditionNode final : public ExpressionArithmeticBinaryOpNode {
+class QX_EXPORT ExpressionAdditionNode final
+    : public ExpressionOperatorImpl<ExpressionAdditionNode, ExpressionArithmeticBinaryOpNode> {
  public:
+  static constexpr OperatorIdentity Identity{"ExpressionAdditionNode", "{3922D3C4-8885-4367-AA4F-74FBF0D8C42A}",
+                                             EP::Add};
   static TW::ClassInfo classInfo;
-  static TW::Ref<TW::Object> ConstructorFunction();
-  const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
-  TW::UniString GetOperatorSign() const override;
   Quantity GetOperationResult(const Quantity& left, const Quantity& right) const override;
 };
 
-class QX_EXPORT ExpressionSubtractionNode final : public ExpressionArithmeticBinaryOpNode {
+class QX_EXPORT ExpressionSubtractionNode final
+    : public ExpressionOperatorImpl<ExpressionSubtractionNode, ExpressionArithmeticBinaryOpNode> {
  public:
+  static constexpr OperatorIdentity Identity{"ExpressionSubtractionNode", "{1AC4CD94-0FB8-4131-B724-621DBD52FA04}",
+                                             EP::Subtract};
   static TW::ClassInfo classInfo;
-  static TW::Ref<TW::Object> ConstructorFunction();
-  const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
-  TW::UniString GetOperatorSign() const override;
   Quantity GetOperationResult(const Quantity& left, const Quantity& right) const override;
 };
 
-class QX_EXPORT ExpressionMultiplicationNode final : public ExpressionArithmeticBinaryOpNode {
+class QX_EXPORT ExpressionMultiplicationNode final
+    : public ExpressionOperatorImpl<ExpressionMultiplicationNode, ExpressionArithmeticBinaryOpNode> {
  public:
+  static constexpr OperatorIdentity Identity{"ExpressionMultiplicationNode", "{C411BBC5-407D-4771-8371-005796C05FBB}",
+                                             EP::Multiply};
   static TW::ClassInfo classInfo;
-  static TW::Ref<TW::Object> ConstructorFunction();
-  const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
-  TW::UniString GetOperatorSign() const override;
   Quantity GetOperationResult(const Quantity& left, const Quantity& right) const override;
 };
 
-class QX_EXPORT ExpressionDivisionNode final : public ExpressionArithmeticBinaryOpNode {
+class QX_EXPORT ExpressionDivisionNode final
+    : public ExpressionOperatorImpl<ExpressionDivisionNode, ExpressionArithmeticBinaryOpNode> {
  public:
+  static constexpr OperatorIdentity Identity{"ExpressionDivisionNode", "{EAD27A61-36F5-45AB-BEF1-8E8A47F2819C}",
+                                             EP::Divide};
   static TW::ClassInfo classInfo;
-  static TW::Ref<TW::Object> ConstructorFunction();
-  const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
-  TW::UniString GetOperatorSign() const override;
   Quantity GetOperationResult(const Quantity& left, const Quantity& right) const override;
 };
 
 /// Raising to a whole power without unit.
-class QX_EXPORT ExpressionPowerNode final : public ExpressionArithmeticBinaryOpNode {
+class QX_EXPORT ExpressionPowerNode final
+    : public ExpressionOperatorImpl<ExpressionPowerNode, ExpressionArithmeticBinaryOpNode> {
  public:
+  static constexpr OperatorIdentity Identity{"ExpressionPowerNode", "{7A70BCD6-BFE8-4313-A434-5D1CA17318F3}",
+                                             EP::Power};
   static TW::ClassInfo classInfo;
-  static TW::Ref<TW::Object> ConstructorFunction();
-  const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
-  TW::UniString GetOperatorSign() const override;
   Quantity GetOperationResult(const Quantity& left, const Quantity& right) const override;
 
  protected:

@@ -1,6 +1,5 @@
 #include "Quorix/ExpressionNodes/ExpressionComparisonNode.hpp"
 
-#include "EP/TextConstants.hpp"
 #include "Quorix/ExpressionMathFunctions.hpp"
 #include "Quorix/ExpressionNodes/ExpressionNodeOperations.hpp"
 #include "Quorix/ExpressionSemanticExceptions.hpp"
@@ -39,26 +38,6 @@ ExpressionValue AnswerOf(Equality equality, Equality wanted) {
 TW::ClassInfo ExpressionArithmeticComparisonOpNode::classInfo("ExpressionArithmeticComparisonOpNode",
                                                               "{B974727C-EA8C-4868-BE67-444A7093C017}", 1,
                                                               &ExpressionBinaryOpNode::classInfo);
-TW::ClassInfo ExpressionLessThanNode::classInfo("ExpressionLessThanNode", "{58D67C5A-A46B-40C4-807B-DEAB045EFBBC}", 1,
-                                                &ExpressionArithmeticComparisonOpNode::classInfo,
-                                                &ExpressionLessThanNode::ConstructorFunction);
-TW::ClassInfo ExpressionLessOrEqNode::classInfo("ExpressionLessOrEqNode", "{D96141FD-164A-4DF2-A593-75F9AB8DE161}", 1,
-                                                &ExpressionArithmeticComparisonOpNode::classInfo,
-                                                &ExpressionLessOrEqNode::ConstructorFunction);
-TW::ClassInfo ExpressionGreaterThanNode::classInfo("ExpressionGreaterThanNode",
-                                                   "{6973BD5D-6F47-435F-9140-1C630BEC0ACD}", 1,
-                                                   &ExpressionArithmeticComparisonOpNode::classInfo,
-                                                   &ExpressionGreaterThanNode::ConstructorFunction);
-TW::ClassInfo ExpressionGreaterOrEqNode::classInfo("ExpressionGreaterOrEqNode",
-                                                   "{35C61388-E0E7-4A0D-A2CE-BE6D1A372036}", 1,
-                                                   &ExpressionArithmeticComparisonOpNode::classInfo,
-                                                   &ExpressionGreaterOrEqNode::ConstructorFunction);
-TW::ClassInfo ExpressionEqualNode::classInfo("ExpressionEqualNode", "{7438A0DE-D93C-42D0-9BA9-AD298FA0B007}", 1,
-                                             &ExpressionBinaryOpNode::classInfo,
-                                             &ExpressionEqualNode::ConstructorFunction);
-TW::ClassInfo ExpressionNotEqualNode::classInfo("ExpressionNotEqualNode", "{FF231656-C63D-48D1-9154-CC92E7697838}", 1,
-                                                &ExpressionBinaryOpNode::classInfo,
-                                                &ExpressionNotEqualNode::ConstructorFunction);
 
 ExpressionValue ExpressionArithmeticComparisonOpNode::EvaluateInternal(const IExpressionEvaluationEnv& env,
                                                                        const ExpressionValue& left,
@@ -74,49 +53,27 @@ ExpressionValue ExpressionArithmeticComparisonOpNode::EvaluateInternal(const IEx
   return ExpressionValue::FromBool(GetOperationResult(a.GetNumericValue(), b.GetNumericValue()));
 }
 
-TW::Ref<TW::Object> ExpressionLessThanNode::ConstructorFunction() { return TW::MakeRef<ExpressionLessThanNode>(); }
-
-TW::UniString ExpressionLessThanNode::GetOperatorSign() const { return TW::UniString(EP::LessThan); }
-
+TW::ClassInfo ExpressionLessThanNode::classInfo = MakeClassInfo();
 bool ExpressionLessThanNode::GetOperationResult(double left, double right) const { return IsLess(left, right); }
 
-TW::Ref<TW::Object> ExpressionLessOrEqNode::ConstructorFunction() { return TW::MakeRef<ExpressionLessOrEqNode>(); }
-
-TW::UniString ExpressionLessOrEqNode::GetOperatorSign() const { return TW::UniString(EP::LessOrEqual); }
-
+TW::ClassInfo ExpressionLessOrEqNode::classInfo = MakeClassInfo();
 bool ExpressionLessOrEqNode::GetOperationResult(double left, double right) const { return IsLessOrNear(left, right); }
 
-TW::Ref<TW::Object> ExpressionGreaterThanNode::ConstructorFunction() {
-  return TW::MakeRef<ExpressionGreaterThanNode>();
-}
-
-TW::UniString ExpressionGreaterThanNode::GetOperatorSign() const { return TW::UniString(EP::GreaterThan); }
-
+TW::ClassInfo ExpressionGreaterThanNode::classInfo = MakeClassInfo();
 bool ExpressionGreaterThanNode::GetOperationResult(double left, double right) const { return IsGreater(left, right); }
 
-TW::Ref<TW::Object> ExpressionGreaterOrEqNode::ConstructorFunction() {
-  return TW::MakeRef<ExpressionGreaterOrEqNode>();
-}
-
-TW::UniString ExpressionGreaterOrEqNode::GetOperatorSign() const { return TW::UniString(EP::GreaterOrEqual); }
-
+TW::ClassInfo ExpressionGreaterOrEqNode::classInfo = MakeClassInfo();
 bool ExpressionGreaterOrEqNode::GetOperationResult(double left, double right) const {
   return IsGreaterOrNear(left, right);
 }
 
-TW::Ref<TW::Object> ExpressionEqualNode::ConstructorFunction() { return TW::MakeRef<ExpressionEqualNode>(); }
-
-TW::UniString ExpressionEqualNode::GetOperatorSign() const { return TW::UniString(EP::Equal); }
-
+TW::ClassInfo ExpressionEqualNode::classInfo = MakeClassInfo();
 ExpressionValue ExpressionEqualNode::EvaluateInternal(const IExpressionEvaluationEnv& env, const ExpressionValue& left,
                                                       const ExpressionNode* right) const {
   return AnswerOf(AreEqualValue(env, left, right, this), Equality::Equal);
 }
 
-TW::Ref<TW::Object> ExpressionNotEqualNode::ConstructorFunction() { return TW::MakeRef<ExpressionNotEqualNode>(); }
-
-TW::UniString ExpressionNotEqualNode::GetOperatorSign() const { return TW::UniString(EP::NotEqual); }
-
+TW::ClassInfo ExpressionNotEqualNode::classInfo = MakeClassInfo();
 ExpressionValue ExpressionNotEqualNode::EvaluateInternal(const IExpressionEvaluationEnv& env,
                                                          const ExpressionValue& left,
                                                          const ExpressionNode* right) const {

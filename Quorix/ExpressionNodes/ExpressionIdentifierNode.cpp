@@ -1,7 +1,6 @@
 #include "Quorix/ExpressionNodes/ExpressionIdentifierNode.hpp"
 
 #include "Quorix/ExpressionSemanticExceptions.hpp"
-#include "Quorix/IdentitiferNodeRegistry.hpp"
 
 namespace QX {
 
@@ -15,10 +14,17 @@ bool ExpressionIdentifierNode::IsValidName(const TW::UniString& name) {
   return GetIdentitiferNodeRegistry().IsExistingIdentifier(name);
 }
 
+ExpressionIdentifierNode::ExpressionIdentifierNode(const TW::UniString& name) { SetName(name); }
+
+void ExpressionIdentifierNode::SetName(TW::UniString name) {
+  data_ = GetIdentitiferNodeRegistry().FindIdentifierData(name);
+  name_ = std::move(name);
+}
+
 ExpressionValue ExpressionIdentifierNode::Evaluate(const IExpressionEvaluationEnv&) const {
-  if (!IsValidName(name_)) throw ExpressionInternalErrorException(this);
+  if (data_ == nullptr) throw ExpressionInternalErrorException(this);
   if (GetChildCount() != 0) throw ExpressionInvalidArgumentNumber(this);
-  return GetIdentitiferNodeRegistry().GetIdentifierValue(name_);
+  return data_->value;
 }
 
 void ExpressionIdentifierNode::BuildExpressionString(IExpressionStringBuilder& builder) const {
@@ -30,7 +36,12 @@ TW::ErrCode ExpressionIdentifierNode::WriteSelf(TW::OChannel& channel) const {
 }
 
 TW::ErrCode ExpressionIdentifierNode::ReadSelf(TW::IChannel& channel) {
-  return ReadFramed(channel, [&] { return channel.ReadString(name_); });
+  return ReadFramed(channel, [&] {
+    TW::UniString name;
+    const TW::ErrCode error = channel.ReadString(name);
+    if (error == TW::NoErr) SetName(std::move(name));
+    return error;
+  });
 }
 
 }  // namespace QX

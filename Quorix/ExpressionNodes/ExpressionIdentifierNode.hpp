@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Quorix/ExpressionNodes/ExpressionNode.hpp"
+#include "Quorix/IdentitiferNodeRegistry.hpp"
 
 namespace QX {
 
@@ -15,7 +16,7 @@ class QX_EXPORT ExpressionIdentifierNode final : public ExpressionNode {
 
   ExpressionIdentifierNode() = default;
   /// Keeps the name as it is written.
-  explicit ExpressionIdentifierNode(const TW::UniString& name) : name_(name) {}
+  explicit ExpressionIdentifierNode(const TW::UniString& name);
 
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
   /// Throws `ExpressionInternalErrorException` for a name that is no constant and `ExpressionInvalidArgumentNumber`
@@ -28,7 +29,10 @@ class QX_EXPORT ExpressionIdentifierNode final : public ExpressionNode {
   TW::ErrCode WriteSelf(TW::OChannel& channel) const override;
 
  private:
+  void SetName(TW::UniString name);
+
   TW::UniString name_;
+  const IdentifierData* data_ = nullptr;  ///< looked up once, when the name is set
 };
 
 }  // namespace QX

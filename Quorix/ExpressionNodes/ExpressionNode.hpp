@@ -39,8 +39,8 @@ class QX_EXPORT ExpressionNode : public EP::SyntaxTreeNode {
  public:
   static TW::ClassInfo classInfo;
 
-  /// What kind of node of a formula a node of a tree is.
-  enum Kind : Family { Ordinary = 1, ArithmeticOperator = 2, OtherBinaryOperator = 3 };
+  /// What kind of node of a formula a node of a tree is. No other tree is likely to choose these numbers.
+  enum Kind : Family { Ordinary = 0x51580001, ArithmeticOperator, OtherBinaryOperator };
 
   const TW::ClassInfo* GetClassInfo() const override;
 
@@ -78,6 +78,9 @@ class QX_EXPORT ExpressionNode : public EP::SyntaxTreeNode {
  protected:
   explicit ExpressionNode(Kind kind = Ordinary) : SyntaxTreeNode(kind) {}
 
+  /// Accepts nodes of formulas only: nothing here could deal with those of other kinds of trees.
+  bool AcceptsStoredChild(const TreeNode& child) const final { return IsExpressionNode(child); }
+
   /// Writes the frame of the node's class; `writeFields` gives the first failure of the fields of version 1.
   template <class WriteFields>
   TW::ErrCode WriteFramed(TW::OChannel& channel, WriteFields&& writeFields) const;
@@ -90,9 +93,11 @@ class QX_EXPORT ExpressionNode : public EP::SyntaxTreeNode {
   TW::ErrCode ReadEmptyFrame(TW::IChannel& channel);
 
  private:
+  static bool IsExpressionNode(const TreeNode& node) {
+    return node.GetFamily() >= Ordinary && node.GetFamily() <= OtherBinaryOperator;
+  }
   static ExpressionNode* AsExpressionNode(TreeNode* node) {
-    const bool isOne = node != nullptr && node->GetFamily() >= Ordinary && node->GetFamily() <= OtherBinaryOperator;
-    return isOne ? static_cast<ExpressionNode*>(node) : nullptr;
+    return node != nullptr && IsExpressionNode(*node) ? static_cast<ExpressionNode*>(node) : nullptr;
   }
 };
 

@@ -11,14 +11,6 @@ TW::ClassInfo ExpressionUnaryOpNode::classInfo("ExpressionUnaryOpNode", "{8A7A42
 TW::ClassInfo ExpressionArithmeticUnaryOpNode::classInfo("ExpressionArithmeticUnaryOpNode",
                                                          "{D7A75E5D-205A-4406-8367-FDE50DCE7AC5}", 1,
                                                          &ExpressionUnaryOpNode::classInfo);
-TW::ClassInfo ExpressionPlusUnaryOpNode::classInfo("ExpressionPlusUnaryOpNode",
-                                                   "{F1E88B4B-FD89-4B9C-9A4C-A1FBCC3B02D3}", 1,
-                                                   &ExpressionArithmeticUnaryOpNode::classInfo,
-                                                   &ExpressionPlusUnaryOpNode::ConstructorFunction);
-TW::ClassInfo ExpressionMinusUnaryOpNode::classInfo("ExpressionMinusUnaryOpNode",
-                                                    "{7E39CFD4-B9D4-4BEC-84E6-9805DEAD1E88}", 1,
-                                                    &ExpressionArithmeticUnaryOpNode::classInfo,
-                                                    &ExpressionMinusUnaryOpNode::ConstructorFunction);
 
 ExpressionValue ExpressionUnaryOpNode::Evaluate(const IExpressionEvaluationEnv& env) const {
   if (GetChildCount() != 1) throw ExpressionInvalidArgumentNumber(this);
@@ -36,20 +28,10 @@ ExpressionValue ExpressionArithmeticUnaryOpNode::EvaluateInternal(const IExpress
   return ExpressionValue::FromQuantity(GetOperationResult(GetQuantityValueFromNode(env, operand, this)));
 }
 
-TW::Ref<TW::Object> ExpressionPlusUnaryOpNode::ConstructorFunction() {
-  return TW::MakeRef<ExpressionPlusUnaryOpNode>();
-}
-
-TW::UniString ExpressionPlusUnaryOpNode::GetOperatorSign() const { return TW::UniString(EP::Plus); }
-
+TW::ClassInfo ExpressionPlusUnaryOpNode::classInfo = MakeClassInfo();
 Quantity ExpressionPlusUnaryOpNode::GetOperationResult(Quantity quantity) const { return quantity; }
 
-TW::Ref<TW::Object> ExpressionMinusUnaryOpNode::ConstructorFunction() {
-  return TW::MakeRef<ExpressionMinusUnaryOpNode>();
-}
-
-TW::UniString ExpressionMinusUnaryOpNode::GetOperatorSign() const { return TW::UniString(EP::Minus); }
-
+TW::ClassInfo ExpressionMinusUnaryOpNode::classInfo = MakeClassInfo();
 Quantity ExpressionMinusUnaryOpNode::GetOperationResult(Quantity quantity) const {
   if (quantity.IsUserUndefinedValue()) return quantity;
   return {-quantity.GetNumericValue(), quantity.GetUnitExponents()};

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "EP/TextConstants.hpp"
 #include "Quorix/ExpressionNodes/ExpressionNode.hpp"
+#include "Quorix/ExpressionNodes/ExpressionOperatorImpl.hpp"
 #include "Quorix/Quantity.hpp"
 
 namespace QX {
@@ -35,22 +37,22 @@ class QX_EXPORT ExpressionArithmeticUnaryOpNode : public ExpressionUnaryOpNode {
   virtual Quantity GetOperationResult(Quantity quantity) const = 0;
 };
 
-class QX_EXPORT ExpressionPlusUnaryOpNode final : public ExpressionArithmeticUnaryOpNode {
+class QX_EXPORT ExpressionPlusUnaryOpNode final
+    : public ExpressionOperatorImpl<ExpressionPlusUnaryOpNode, ExpressionArithmeticUnaryOpNode> {
  public:
+  static constexpr OperatorIdentity Identity{"ExpressionPlusUnaryOpNode", "{F1E88B4B-FD89-4B9C-9A4C-A1FBCC3B02D3}",
+                                             EP::Plus};
   static TW::ClassInfo classInfo;
-  static TW::Ref<TW::Object> ConstructorFunction();
-  const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
-  TW::UniString GetOperatorSign() const override;
   Quantity GetOperationResult(Quantity quantity) const override;
 };
 
 /// Negation. It keeps an undefined quantity as it is and turns 0 into -0.
-class QX_EXPORT ExpressionMinusUnaryOpNode final : public ExpressionArithmeticUnaryOpNode {
+class QX_EXPORT ExpressionMinusUnaryOpNode final
+    : public ExpressionOperatorImpl<ExpressionMinusUnaryOpNode, ExpressionArithmeticUnaryOpNode> {
  public:
+  static constexpr OperatorIdentity Identity{"ExpressionMinusUnaryOpNode", "{7E39CFD4-B9D4-4BEC-84E6-9805DEAD1E88}",
+                                             EP::Minus};
   static TW::ClassInfo classInfo;
-  static TW::Ref<TW::Object> ConstructorFunction();
-  const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
-  TW::UniString GetOperatorSign() const override;
   Quantity GetOperationResult(Quantity quantity) const override;
 };
 

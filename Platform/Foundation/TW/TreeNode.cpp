@@ -12,6 +12,8 @@ ClassInfo TreeNode::classInfo("TreeNode", "{5D0C9B39-5C1A-4E6F-8E0C-2B3A7D1F9C64
 
 const ClassInfo* TreeNode::GetClassInfo() const { return &classInfo; }
 
+bool TreeNode::AcceptsStoredChild(const TreeNode&) const { return true; }
+
 TreeNode::Nesting TreeNode::GetChildNesting(unsigned int) const { return Nesting::Level; }
 
 TreeNode::~TreeNode() { DestroyChildren(); }
@@ -125,6 +127,7 @@ class TreeReader {
     if (depth.levels > maximumDepth_ || depth.aside / MostAsidePerLevel > maximumDepth_) return ErrTooDeep;
     Ref<TreeNode> child;
     if (const ErrCode error = ReadNew(child); error != NoErr) return error;
+    if (!parent.AcceptsStoredChild(*child)) return ErrRefused;
     parent.AddChild(child);
     return ReadFields(*child, depth);
   }

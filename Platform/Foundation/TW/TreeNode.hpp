@@ -60,6 +60,9 @@ class TW_EXPORT TreeNode : public Object {
   /// Reads and writes the node's own fields, without its children.
   virtual ErrCode ReadSelf(IChannel& channel) = 0;
   virtual ErrCode WriteSelf(OChannel& channel) const = 0;
+  /// Whether `child`, of which only the class is known yet, may be read as a child of this node; if not, reading gives
+  /// `ErrRefused`.
+  virtual bool AcceptsStoredChild(const TreeNode& child) const;
   /// How much deeper than this node the child at `index` is nested.
   virtual Nesting GetChildNesting(unsigned int index) const;
 

@@ -1,0 +1,45 @@
+#include "Host/ElementEnvironment.hpp"
+
+#include "Host/PropertyTable.hpp"
+
+namespace Host {
+
+const PropertyIndex* ElementEnvironment::Find(const TW::Guid& propertyId) const {
+  for (const PropertyIndex& property : expected_) {
+    if (table_.GetCatalog().Get(property).id == propertyId) return &property;
+  }
+  return table_.GetCatalog().FindById(propertyId);
+}
+
+QX::EvaluableStatus ElementEnvironment::GetPropertyEvaluableStatus(const TW::Guid& propertyId) const {
+  const PropertyIndex* property = Find(propertyId);
+  if (property == nullptr) return QX::EvaluableStatus::NotEvaluable;
+  switch (table_.GetStatus(*property, element_)) {
+    case CellStatus::Undefined:
+    case CellStatus::Defined:
+      return QX::EvaluableStatus::Evaluable;
+    case CellStatus::NotComputed:
+      return QX::EvaluableStatus::NotYetEvaluable;
+    default:
+      return QX::EvaluableStatus::NotEvaluable;
+  }
+}
+
+QX::ExpressionValue ElementEnvironment::GetPropertyValue(const TW::Guid& propertyId) const {
+  const PropertyIndex* property = Find(propertyId);
+  return property != nullptr ? table_.GetValue(*property, element_) : QX::ExpressionValue::CreateInvalid();
+}
+
+const QX::IExpressionUnitConverter& ElementEnvironment::GetUnitConverter() const {
+  return table_.GetSettings().converter;
+}
+
+const QX::IEvaluationLocaleSettings& ElementEnvironment::GetLocaleSettings() const {
+  return table_.GetSettings().locale;
+}
+
+bool ElementEnvironment::IsUserUndefinedPropagationEnabled() const {
+  return table_.GetSettings().isUndefinedPropagationEnabled;
+}
+
+}  // namespace Host

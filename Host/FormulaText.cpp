@@ -1,0 +1,90 @@
+#include "Host/FormulaText.hpp"
+
+#include "EP/NormalizedParsingLocaleSettings.hpp"
+#include "EP/TextConstants.hpp"
+#include "EP/Tokenizer.hpp"
+#include "Host/BracketedName.hpp"
+#include "Quorix/ExpressionReferenceFormatUtils.hpp"
+
+#include <algorithm>
+#include <utility>
+
+namespace Host {
+namespace {
+
+// What comes to stand after each opening bracket.
+constexpr unsigned int InsertedLength =
+    static_cast<unsigned int>(QX::PropertyReferenceType.size() + EP::ReferenceSeparator.size());
+// Most formulas name no more properties.
+constexpr std::size_t UsualReferenceCount = 4;
+
+// A bracket begins a name wherever it begins a token; that it may look like another token (a reference with a type, or
+// a character of no meaning) does not matter.
+bool BeginsReference(std::u16string_view text, const EP::Token& token) {
+  return text[token.range.begin] == EP::ReferenceStart.front() && token.kind != EP::TokenKind::ListSeparator;
+}
+
+class NamingRenderer final : public QX::IExpressionStringBuilder {
+ public:
+  NamingRenderer(const EP::IParsingLocaleSettings& settings, const PropertyCatalog& catalog)
+      : settings_(settings), catalog_(catalog) {}
+
+  const EP::IParsingLocaleSettings& GetLocaleSettings() const override { return settings_; }
+  void AppendString(const TW::UniString& text, const QX::ExpressionNode* node) override {
+    TW::Guid id;
+    const bool isReference =
+        text.GetView().starts_with(EP::ReferenceStart) && QX::IsWellFormedExpressionPropertyReference(text, &id);
+    const PropertyIndex* property = isReference ? catalog_.FindById(id) : nullptr;
+    string_.Append(property != nullptr ? catalog_.MakeReference(*property) : text, node);
+  }
+  QX::ExpressionString TakeString() { return std::move(string_); }
+
+ private:
+  EP::NormalizedParsingLocaleSettings settings_;
+  const PropertyCatalog& catalog_;
+  QX::ExpressionString string_;
+};
+
+}  // namespace
+
+ReferenceText::ReferenceText(std::u16string_view typed, const EP::IParsingLocaleSettings& settings) {
+  text_.Reserve(typed.size() + UsualReferenceCount * InsertedLength);
+  unsigned int start = 0;  // of what the tokenizer sees
+  EP::Tokenizer tokenizer(typed, settings);
+  for (EP::Token token = tokenizer.Next(); token.kind != EP::TokenKind::End; token = tokenizer.Next()) {
+    const std::u16string_view seen = typed.substr(start);
+    if (!BeginsReference(seen, token)) {
+      text_ += seen.substr(token.range.begin, token.range.GetLength());
+      continue;
+    }
+    const unsigned int begin = start + token.range.begin;
+    const auto end = static_cast<unsigned int>(FindBracketEnd(typed, begin));
+    references_.push_back({begin, end});
+    text_ += EP::ReferenceStart;
+    text_ += QX::PropertyReferenceType;
+    text_ += EP::ReferenceSeparator;
+    text_ += typed.substr(begin + 1, end - begin - 1);
+    start = end;
+    tokenizer = EP::Tokenizer(typed.substr(start), settings);
+  }
+}
+
+unsigned int ReferenceText::ToTyped(unsigned int position) const {
+  unsigned int inserted = 0;
+  for (const TW::Range<unsigned int>& reference : references_) {
+    if (position <= reference.begin + inserted) break;
+    inserted += InsertedLength;
+    // What was inserted comes from nothing but the bracket before it.
+    position = std::max(position, reference.begin + 1 + inserted);
+  }
+  return position - inserted;
+}
+
+QX::ExpressionString RenderWithNames(const QX::ExpressionNode& root, const EP::IParsingLocaleSettings& settings,
+                                     const PropertyCatalog& catalog) {
+  NamingRenderer renderer(settings, catalog);
+  root.BuildExpressionString(renderer);
+  return renderer.TakeString();
+}
+
+}  // namespace Host

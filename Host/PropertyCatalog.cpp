@@ -1,0 +1,90 @@
+#include "Host/PropertyCatalog.hpp"
+
+#include "Host/BracketedName.hpp"
+#include "Quorix/ExpressionReferenceFormatUtils.hpp"
+
+#include <algorithm>
+#include <utility>
+
+namespace Host {
+namespace {
+
+TW::UniString MakeFullName(std::u16string_view name, std::u16string_view group) {
+  TW::UniString full(group);
+  full += u".";
+  full += name;
+  return full;
+}
+
+}  // namespace
+
+TW::Optional<PropertyIndex> PropertyCatalog::Add(PropertyDefinition definition) {
+  const bool usable = !definition.id.IsNull() && !definition.name.IsEmpty();
+  if (!usable || IsTaken(definition.name, definition.group)) return std::nullopt;
+  const PropertyIndex property = GetCount();
+  if (!byId_.Add(definition.id, property)) return std::nullopt;
+  definitions_.push_back(std::move(definition));
+  AddNames(property);
+  return property;
+}
+
+bool PropertyCatalog::Rename(PropertyIndex property, const TW::UniString& name, const TW::UniString& group) {
+  if (property >= GetCount() || name.IsEmpty()) return false;
+  PropertyDefinition& definition = definitions_[property];
+  if (definition.name == name && definition.group == group) return true;
+  if (IsTaken(name, group)) return false;
+  RemoveName(definition.name, property);
+  if (!definition.group.IsEmpty()) RemoveName(MakeFullName(definition.name, definition.group), property);
+  definition.name = name;
+  definition.group = group;
+  AddNames(property);
+  return true;
+}
+
+std::span<const PropertyIndex> PropertyCatalog::FindByName(std::u16string_view name) const {
+  const Bearers* bearers = byName_.Find(name);
+  return bearers != nullptr ? std::span<const PropertyIndex>(bearers->data(), bearers->size())
+                            : std::span<const PropertyIndex>();
+}
+
+TW::UniString PropertyCatalog::MakeReference(PropertyIndex property) const {
+  const PropertyDefinition& definition = definitions_[property];
+  const auto makeWithName = [&](std::u16string_view name) {
+    TW::UniString reference = BracketName(name);
+    const bool fits = FindByName(name).size() == 1 && !QX::IsWellFormedExpressionPropertyReference(reference, nullptr);
+    return fits ? reference : TW::UniString();
+  };
+  TW::UniString reference = makeWithName(definition.name);
+  if (reference.IsEmpty() && !definition.group.IsEmpty()) {
+    reference = makeWithName(MakeFullName(definition.name, definition.group));
+  }
+  return reference.IsEmpty() ? QX::MakeExpressionPropertyReferenceString(definition.id) : reference;
+}
+
+bool PropertyCatalog::IsTaken(std::u16string_view name, std::u16string_view group) const {
+  const auto hasBoth = [&](PropertyIndex other) {
+    return definitions_[other].name == name && definitions_[other].group == group;
+  };
+  return std::ranges::any_of(FindByName(name), hasBoth);
+}
+
+void PropertyCatalog::AddNames(PropertyIndex property) {
+  const auto add = [&](TW::UniString&& name) {
+    if (Bearers* bearers = byName_.Find(name)) {
+      bearers->push_back(property);
+    } else {
+      byName_.Add(std::move(name), Bearers{property});
+    }
+  };
+  const PropertyDefinition& definition = definitions_[property];
+  add(TW::UniString(definition.name));
+  if (!definition.group.IsEmpty()) add(MakeFullName(definition.name, definition.group));
+}
+
+void PropertyCatalog::RemoveName(std::u16string_view name, PropertyIndex property) {
+  Bearers& bearers = byName_.Get(name);
+  bearers.erase(std::ranges::find(bearers, property));
+  if (bearers.empty()) byName_.Remove(name);
+}
+
+}  // namespace Host
