@@ -17,8 +17,6 @@ constexpr std::size_t KeptLength = std::size_t{256} * 1024;
 
 // The reader of the library does not expect that memory may be refused.
 struct ThrowingAllocator {
-  static constexpr bool kNeedFree = true;
-
   void* Malloc(std::size_t size) { return Checked(std::malloc(size), size); }
   void* Realloc(void* old, std::size_t, std::size_t size) { return Checked(std::realloc(old, size), size); }
   static void Free(void* memory) { std::free(memory); }
