@@ -89,7 +89,8 @@ class LineEditor::Terminal {
 
  private:
   void SetKeys() {
-    el_set(editor_, EL_ADDFN, "qx-complete", "Complete the word before the cursor", &Terminal::OnComplete);
+    // The wide call keeps its texts where they are; the narrow one copies them and never frees the copies.
+    el_wset(editor_, EL_ADDFN, L"qx-complete", L"Complete the word before the cursor", &Terminal::OnComplete);
     el_set(editor_, EL_BIND, "^I", "qx-complete", nullptr);
     el_set(editor_, EL_BIND, "^R", "em-inc-search-prev", nullptr);
     // While a line is edited, an interrupt drops the line and not the program.
