@@ -72,25 +72,25 @@ Quantity ExpressionBinaryArithmeticFunctionNode::Compute(const IExpressionEvalua
   return GetOperationResult(a, GetQuantityValueFromNode(env, arguments[1], this));
 }
 
-Quantity ExpressionUnaryAngleArithmeticFunctionNode::GetOperationResult(Quantity quantity) const {
+Quantity ExpressionUnaryAngleArithmeticFunctionNode::GetOperationResult(const Quantity& quantity) const {
   if (!quantity.IsAngle()) throw ExpressionInvalidAngleType(this);
   if (quantity.IsUserUndefinedValue()) return {Undefined, NonUnit};
   return {GetOperationResult(quantity.GetNumericValue()), NonUnit};
 }
 
-Quantity ExpressionUnaryNonUnitToAngleArithmeticFunctionNode::GetOperationResult(Quantity quantity) const {
+Quantity ExpressionUnaryNonUnitToAngleArithmeticFunctionNode::GetOperationResult(const Quantity& quantity) const {
   if (!quantity.IsNonUnit()) throw ExpressionInvalidNonUnitNumberType(this);
   if (quantity.IsUserUndefinedValue()) return {Undefined, Angle};
   return {GetOperationResult(quantity.GetNumericValue()), Angle};
 }
 
-Quantity ExpressionUnaryNonUnitArithmeticFunctionNode::GetOperationResult(Quantity quantity) const {
+Quantity ExpressionUnaryNonUnitArithmeticFunctionNode::GetOperationResult(const Quantity& quantity) const {
   if (!quantity.IsNonUnit()) throw ExpressionInvalidNonUnitNumberType(this);
   if (quantity.IsUserUndefinedValue()) return quantity;
   return {GetOperationResult(quantity.GetNumericValue()), NonUnit};
 }
 
-Quantity ExpressionBinaryNonUnitArithmeticFunctionNode::GetOperationResult(Quantity a, Quantity b) const {
+Quantity ExpressionBinaryNonUnitArithmeticFunctionNode::GetOperationResult(const Quantity& a, const Quantity& b) const {
   if (!a.IsNonUnit() || !b.IsNonUnit()) throw ExpressionInvalidNonUnitNumberType(this);
   if (a.IsUserUndefinedValue() || b.IsUserUndefinedValue()) return {Undefined, NonUnit};
   return {GetOperationResult(a.GetNumericValue(), b.GetNumericValue()), NonUnit};

@@ -39,7 +39,7 @@ class QX_EXPORT ExpressionUnaryArithmeticFunctionNode : public ExpressionQuantit
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
   bool IsValidParameterCount(unsigned int count) const final { return count == 1; }
 
-  virtual Quantity GetOperationResult(Quantity quantity) const = 0;
+  virtual Quantity GetOperationResult(const Quantity& quantity) const = 0;
 
  protected:
   Quantity Compute(const IExpressionEvaluationEnv& env, const Arguments& arguments) const final;
@@ -50,7 +50,7 @@ class QX_EXPORT ExpressionUnaryAngleArithmeticFunctionNode : public ExpressionUn
  public:
   static TW::ClassInfo classInfo;
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
-  Quantity GetOperationResult(Quantity quantity) const final;
+  Quantity GetOperationResult(const Quantity& quantity) const final;
 
   /// `radians` is the angle.
   virtual double GetOperationResult(double radians) const = 0;
@@ -61,7 +61,7 @@ class QX_EXPORT ExpressionUnaryNonUnitToAngleArithmeticFunctionNode : public Exp
  public:
   static TW::ClassInfo classInfo;
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
-  Quantity GetOperationResult(Quantity quantity) const final;
+  Quantity GetOperationResult(const Quantity& quantity) const final;
 
   virtual double GetOperationResult(double value) const = 0;
 };
@@ -71,7 +71,7 @@ class QX_EXPORT ExpressionUnaryNonUnitArithmeticFunctionNode : public Expression
  public:
   static TW::ClassInfo classInfo;
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
-  Quantity GetOperationResult(Quantity quantity) const final;
+  Quantity GetOperationResult(const Quantity& quantity) const final;
 
   virtual double GetOperationResult(double value) const = 0;
 };
@@ -83,7 +83,7 @@ class QX_EXPORT ExpressionBinaryArithmeticFunctionNode : public ExpressionQuanti
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
   bool IsValidParameterCount(unsigned int count) const final { return count == 2; }
 
-  virtual Quantity GetOperationResult(Quantity a, Quantity b) const = 0;
+  virtual Quantity GetOperationResult(const Quantity& a, const Quantity& b) const = 0;
 
  protected:
   Quantity Compute(const IExpressionEvaluationEnv& env, const Arguments& arguments) const final;
@@ -94,7 +94,7 @@ class QX_EXPORT ExpressionBinaryNonUnitArithmeticFunctionNode : public Expressio
  public:
   static TW::ClassInfo classInfo;
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
-  Quantity GetOperationResult(Quantity a, Quantity b) const final;
+  Quantity GetOperationResult(const Quantity& a, const Quantity& b) const final;
 
   virtual double GetOperationResult(double a, double b) const = 0;
 };

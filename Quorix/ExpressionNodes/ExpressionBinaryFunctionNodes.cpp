@@ -10,19 +10,19 @@ namespace QX {
 
 TW::ClassInfo ExpressionPowerFunctionNode::classInfo = MakeClassInfo();
 const TW::UniString ExpressionPowerFunctionNode::functionName(Identity.keyword);
-Quantity ExpressionPowerFunctionNode::GetOperationResult(Quantity base, Quantity exponent) const {
+Quantity ExpressionPowerFunctionNode::GetOperationResult(const Quantity& base, const Quantity& exponent) const {
   return PowerFuncImpl(base, exponent, this);
 }
 
 TW::ClassInfo ExpressionNthRootFunctionNode::classInfo = MakeClassInfo();
 const TW::UniString ExpressionNthRootFunctionNode::functionName(Identity.keyword);
-Quantity ExpressionNthRootFunctionNode::GetOperationResult(Quantity radicand, Quantity degree) const {
+Quantity ExpressionNthRootFunctionNode::GetOperationResult(const Quantity& radicand, const Quantity& degree) const {
   return NthRootFuncImpl(radicand, degree, this);
 }
 
 TW::ClassInfo ExpressionQuotientFunctionNode::classInfo = MakeClassInfo();
 const TW::UniString ExpressionQuotientFunctionNode::functionName(Identity.keyword);
-Quantity ExpressionQuotientFunctionNode::GetOperationResult(Quantity dividend, Quantity divisor) const {
+Quantity ExpressionQuotientFunctionNode::GetOperationResult(const Quantity& dividend, const Quantity& divisor) const {
   constexpr UnitExponents NonUnit = UnitExponents::CreateNonUnit();
   if (dividend.GetUnitExponents() != divisor.GetUnitExponents()) throw ExpressionIncompatibleArgumentDimensions(this);
   const double a = dividend.GetNumericValue();

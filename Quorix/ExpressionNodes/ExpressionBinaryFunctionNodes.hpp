@@ -19,7 +19,7 @@ class QX_EXPORT ExpressionPowerFunctionNode final : public BinaryFunction<Expres
                                              u"POWER"};
   static TW::ClassInfo classInfo;
   static const TW::UniString functionName;
-  Quantity GetOperationResult(Quantity base, Quantity exponent) const override;
+  Quantity GetOperationResult(const Quantity& base, const Quantity& exponent) const override;
 };
 
 /// The root of a whole degree, as the operator for powers treats its dimension. There are no roots of negative numbers.
@@ -29,7 +29,7 @@ class QX_EXPORT ExpressionNthRootFunctionNode final : public BinaryFunction<Expr
                                              u"NTHROOT"};
   static TW::ClassInfo classInfo;
   static const TW::UniString functionName;
-  Quantity GetOperationResult(Quantity radicand, Quantity degree) const override;
+  Quantity GetOperationResult(const Quantity& radicand, const Quantity& degree) const override;
 };
 
 /// The whole part of the quotient, towards zero, without unit. Both must be of one dimension.
@@ -39,7 +39,7 @@ class QX_EXPORT ExpressionQuotientFunctionNode final : public BinaryFunction<Exp
                                              u"QUOTIENT"};
   static TW::ClassInfo classInfo;
   static const TW::UniString functionName;
-  Quantity GetOperationResult(Quantity dividend, Quantity divisor) const override;
+  Quantity GetOperationResult(const Quantity& dividend, const Quantity& divisor) const override;
 };
 
 /// The logarithm of a number to a base. A number or base of 0 is taken, and gives what division makes of it.

@@ -27,19 +27,20 @@ double RoundFuncImpl(double value, double digits, RoundingRule rule, const Expre
 
 TW::ClassInfo ExpressionMRoundFunctionNode::classInfo = MakeClassInfo();
 const TW::UniString ExpressionMRoundFunctionNode::functionName(Identity.keyword);
-Quantity ExpressionMRoundFunctionNode::GetOperationResult(Quantity quantity, Quantity multiple) const {
+Quantity ExpressionMRoundFunctionNode::GetOperationResult(const Quantity& quantity, const Quantity& multiple) const {
   return MRoundFuncImpl(quantity, multiple, RoundingRule::Nearest, this);
 }
 
 TW::ClassInfo ExpressionMRoundUpFunctionNode::classInfo = MakeClassInfo();
 const TW::UniString ExpressionMRoundUpFunctionNode::functionName(Identity.keyword);
-Quantity ExpressionMRoundUpFunctionNode::GetOperationResult(Quantity quantity, Quantity multiple) const {
+Quantity ExpressionMRoundUpFunctionNode::GetOperationResult(const Quantity& quantity, const Quantity& multiple) const {
   return MRoundFuncImpl(quantity, multiple, RoundingRule::Up, this);
 }
 
 TW::ClassInfo ExpressionMRoundDownFunctionNode::classInfo = MakeClassInfo();
 const TW::UniString ExpressionMRoundDownFunctionNode::functionName(Identity.keyword);
-Quantity ExpressionMRoundDownFunctionNode::GetOperationResult(Quantity quantity, Quantity multiple) const {
+Quantity ExpressionMRoundDownFunctionNode::GetOperationResult(const Quantity& quantity,
+                                                              const Quantity& multiple) const {
   return MRoundFuncImpl(quantity, multiple, RoundingRule::Down, this);
 }
 

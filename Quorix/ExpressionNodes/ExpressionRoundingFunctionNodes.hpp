@@ -14,7 +14,7 @@ class QX_EXPORT ExpressionMRoundFunctionNode final : public BinaryFunction<Expre
                                              u"MROUND"};
   static TW::ClassInfo classInfo;
   static const TW::UniString functionName;
-  Quantity GetOperationResult(Quantity quantity, Quantity multiple) const override;
+  Quantity GetOperationResult(const Quantity& quantity, const Quantity& multiple) const override;
 };
 
 /// To a multiple away from zero.
@@ -24,7 +24,7 @@ class QX_EXPORT ExpressionMRoundUpFunctionNode final : public BinaryFunction<Exp
                                              u"MROUNDUP"};
   static TW::ClassInfo classInfo;
   static const TW::UniString functionName;
-  Quantity GetOperationResult(Quantity quantity, Quantity multiple) const override;
+  Quantity GetOperationResult(const Quantity& quantity, const Quantity& multiple) const override;
 };
 
 /// To a multiple towards zero.
@@ -34,7 +34,7 @@ class QX_EXPORT ExpressionMRoundDownFunctionNode final : public BinaryFunction<E
                                              "{D292875B-54FC-43DC-B47A-23FFE6A17C39}", u"MROUNDDOWN"};
   static TW::ClassInfo classInfo;
   static const TW::UniString functionName;
-  Quantity GetOperationResult(Quantity quantity, Quantity multiple) const override;
+  Quantity GetOperationResult(const Quantity& quantity, const Quantity& multiple) const override;
 };
 
 /// To the nearest, halves away from zero.

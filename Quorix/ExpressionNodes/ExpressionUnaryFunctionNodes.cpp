@@ -21,7 +21,7 @@ bool IsSineOrCosine(double value) { return !IsLess(value, -1.0) && !IsGreater(va
 
 TW::ClassInfo ExpressionSqrtFunctionNode::classInfo = MakeClassInfo();
 const TW::UniString ExpressionSqrtFunctionNode::functionName(Identity.keyword);
-Quantity ExpressionSqrtFunctionNode::GetOperationResult(Quantity quantity) const {
+Quantity ExpressionSqrtFunctionNode::GetOperationResult(const Quantity& quantity) const {
   Quantity root;
   RequireDomain(Quantity::NthRoot(quantity, 2, root), this);
   return root;
@@ -29,14 +29,14 @@ Quantity ExpressionSqrtFunctionNode::GetOperationResult(Quantity quantity) const
 
 TW::ClassInfo ExpressionAbsFunctionNode::classInfo = MakeClassInfo();
 const TW::UniString ExpressionAbsFunctionNode::functionName(Identity.keyword);
-Quantity ExpressionAbsFunctionNode::GetOperationResult(Quantity quantity) const {
+Quantity ExpressionAbsFunctionNode::GetOperationResult(const Quantity& quantity) const {
   if (quantity.IsUserUndefinedValue() || !(quantity.GetNumericValue() < 0.0)) return quantity;
   return {-quantity.GetNumericValue(), quantity.GetUnitExponents()};
 }
 
 TW::ClassInfo ExpressionSignFunctionNode::classInfo = MakeClassInfo();
 const TW::UniString ExpressionSignFunctionNode::functionName(Identity.keyword);
-Quantity ExpressionSignFunctionNode::GetOperationResult(Quantity quantity) const {
+Quantity ExpressionSignFunctionNode::GetOperationResult(const Quantity& quantity) const {
   constexpr UnitExponents NonUnit = UnitExponents::CreateNonUnit();
   if (quantity.IsUserUndefinedValue()) return {Quantity::UndefinedSelector(), NonUnit};
   const double value = quantity.GetNumericValue();

@@ -24,7 +24,7 @@ class QX_EXPORT ExpressionSqrtFunctionNode final : public UnaryFunction<Expressi
                                              u"SQRT"};
   static TW::ClassInfo classInfo;
   static const TW::UniString functionName;
-  Quantity GetOperationResult(Quantity quantity) const override;
+  Quantity GetOperationResult(const Quantity& quantity) const override;
 };
 
 /// The magnitude, in the same dimension; it keeps an undefined quantity as it is, and -0.
@@ -34,7 +34,7 @@ class QX_EXPORT ExpressionAbsFunctionNode final : public UnaryFunction<Expressio
                                              u"ABS"};
   static TW::ClassInfo classInfo;
   static const TW::UniString functionName;
-  Quantity GetOperationResult(Quantity quantity) const override;
+  Quantity GetOperationResult(const Quantity& quantity) const override;
 };
 
 /// -1, 0 or 1 without unit; 0 for what lies within the tolerance of it.
@@ -44,7 +44,7 @@ class QX_EXPORT ExpressionSignFunctionNode final : public UnaryFunction<Expressi
                                              u"SIGN"};
   static TW::ClassInfo classInfo;
   static const TW::UniString functionName;
-  Quantity GetOperationResult(Quantity quantity) const override;
+  Quantity GetOperationResult(const Quantity& quantity) const override;
 };
 
 class QX_EXPORT ExpressionSineFunctionNode final : public AngleFunction<ExpressionSineFunctionNode> {

@@ -23,16 +23,22 @@ void ExpressionUnaryOpNode::BuildExpressionString(IExpressionStringBuilder& buil
   GetChild(0)->BuildExpressionString(builder);
 }
 
+Quantity ExpressionArithmeticUnaryOpNode::EvaluateQuantity(const IExpressionEvaluationEnv& env,
+                                                           const ExpressionNode* source) const {
+  if (GetChildCount() != 1) throw ExpressionInvalidArgumentNumber(this);
+  return RequireFinite(GetOperationResult(GetQuantityValueFromNode(env, GetChild(0), this)), source);
+}
+
 ExpressionValue ExpressionArithmeticUnaryOpNode::EvaluateInternal(const IExpressionEvaluationEnv& env,
                                                                   const ExpressionNode* operand) const {
   return ExpressionValue::FromQuantity(GetOperationResult(GetQuantityValueFromNode(env, operand, this)));
 }
 
 TW::ClassInfo ExpressionPlusUnaryOpNode::classInfo = MakeClassInfo();
-Quantity ExpressionPlusUnaryOpNode::GetOperationResult(Quantity quantity) const { return quantity; }
+Quantity ExpressionPlusUnaryOpNode::GetOperationResult(const Quantity& quantity) const { return quantity; }
 
 TW::ClassInfo ExpressionMinusUnaryOpNode::classInfo = MakeClassInfo();
-Quantity ExpressionMinusUnaryOpNode::GetOperationResult(Quantity quantity) const {
+Quantity ExpressionMinusUnaryOpNode::GetOperationResult(const Quantity& quantity) const {
   if (quantity.IsUserUndefinedValue()) return quantity;
   return {-quantity.GetNumericValue(), quantity.GetUnitExponents()};
 }

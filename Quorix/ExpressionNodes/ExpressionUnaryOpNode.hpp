@@ -33,8 +33,9 @@ class QX_EXPORT ExpressionArithmeticUnaryOpNode : public ExpressionUnaryOpNode {
   const TW::ClassInfo* GetClassInfo() const override { return &classInfo; }
 
   ExpressionValue EvaluateInternal(const IExpressionEvaluationEnv& env, const ExpressionNode* operand) const final;
+  Quantity EvaluateQuantity(const IExpressionEvaluationEnv& env, const ExpressionNode* source) const final;
 
-  virtual Quantity GetOperationResult(Quantity quantity) const = 0;
+  virtual Quantity GetOperationResult(const Quantity& quantity) const = 0;
 };
 
 class QX_EXPORT ExpressionPlusUnaryOpNode final
@@ -43,7 +44,7 @@ class QX_EXPORT ExpressionPlusUnaryOpNode final
   static constexpr OperatorIdentity Identity{"ExpressionPlusUnaryOpNode", "{F1E88B4B-FD89-4B9C-9A4C-A1FBCC3B02D3}",
                                              EP::Plus};
   static TW::ClassInfo classInfo;
-  Quantity GetOperationResult(Quantity quantity) const override;
+  Quantity GetOperationResult(const Quantity& quantity) const override;
 };
 
 /// Negation. It keeps an undefined quantity as it is and turns 0 into -0.
@@ -53,7 +54,7 @@ class QX_EXPORT ExpressionMinusUnaryOpNode final
   static constexpr OperatorIdentity Identity{"ExpressionMinusUnaryOpNode", "{7E39CFD4-B9D4-4BEC-84E6-9805DEAD1E88}",
                                              EP::Minus};
   static TW::ClassInfo classInfo;
-  Quantity GetOperationResult(Quantity quantity) const override;
+  Quantity GetOperationResult(const Quantity& quantity) const override;
 };
 
 }  // namespace QX
