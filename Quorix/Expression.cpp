@@ -133,7 +133,7 @@ TW::ErrCode Expression::ReadVersion1(TW::IChannel& channel) {
   TW::Ref<ExpressionNode> root;
   if (hasRoot) {
     TW::Ref<TW::TreeNode> tree;
-    const TW::ErrCode error = TW::TreeNode::ReadDynamic(channel, tree);
+    const TW::ErrCode error = TW::TreeNode::ReadDynamic(channel, tree, EP::MaximumNestingDepth);
     if (error != TW::NoErr) return error;
     root = tree.CheckedCast<ExpressionNode>();
   }
