@@ -9,14 +9,14 @@
 
 namespace Host {
 
-/// Why a formula has no value for an element, as people are told. Ranges count the 16-bit units of the formula's text
+/// Why a formula or an input has no value for an element, as people are told. Ranges count the 16-bit units of the formula's text
 /// with names.
 struct FailureReport {
   FailureKind kind = FailureKind::Evaluation;
   TW::UniString name;       ///< the name of the exception's class; `InvalidResult` or `WrongKind` for the other kinds
   short resourceIndex = 0;  ///< the number of the message, 0 for the other kinds
-  TW::UniString message;    ///< in the user's language for `Evaluation`
-  TW::UniString formula;    ///< the text with names that the ranges refer to
+  TW::UniString message;    ///< in the user's language
+  TW::UniString formula;    ///< the text with names that the ranges refer to; empty for an input
   TW::Range<unsigned int> range;  ///< of the node at fault itself
   TW::Range<unsigned int> span;   ///< of the node at fault and everything below it
 };

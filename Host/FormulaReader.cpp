@@ -4,6 +4,7 @@
 #include "EP/SyntaxTree.hpp"
 #include "Host/FormulaText.hpp"
 #include "Host/NamingTreeBuilder.hpp"
+#include "Host/TableTexts.hpp"
 
 #include <algorithm>
 #include <span>
@@ -23,13 +24,13 @@ FormulaError MakeError(const EP::SyntaxErrorException& error, TextRange range, s
   if (meanings.empty()) {
     return {FormulaErrorKind::UnknownName,
             range,
-            TW::UniString::Printf(u"There is no property %T.", name),
+            MakeText(TableText::UnknownName, name),
             std::nullopt,
             {}};
   }
   return {FormulaErrorKind::AmbiguousName,
           range,
-          TW::UniString::Printf(u"Several properties are named %T.", name),
+          MakeText(TableText::AmbiguousName, name),
           std::nullopt,
           {meanings.begin(), meanings.end()}};
 }

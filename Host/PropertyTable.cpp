@@ -3,6 +3,7 @@
 #include "Host/ElementEnvironment.hpp"
 #include "Host/FormulaReader.hpp"
 #include "Host/FormulaText.hpp"
+#include "Host/TableTexts.hpp"
 #include "Quorix/ExpressionSemanticExceptions.hpp"
 
 #include <algorithm>
@@ -45,7 +46,7 @@ ElementIndex PropertyTable::AddElements(ElementIndex count) {
 TW::Optional<FormulaError> PropertyTable::SetFormula(PropertyIndex property, std::u16string_view text,
                                                      const EP::IParsingLocaleSettings& settings) {
   if (property >= catalog_.GetCount()) {
-    return FormulaError{FormulaErrorKind::NoSuchProperty, {}, u"There is no such property.", std::nullopt, {}};
+    return FormulaError{FormulaErrorKind::NoSuchProperty, {}, MakeText(TableText::NoSuchProperty), std::nullopt, {}};
   }
   ReadFormula read = ReadFormulaWithNames(text, settings, catalog_);
   if (read.error) return std::move(read.error);
@@ -69,7 +70,7 @@ FormulaError PropertyTable::MakeCycleError(std::vector<PropertyIndex> cycle, TW:
     if (!way.IsEmpty()) way += u" \u2192 ";
     way += catalog_.MakeReference(property);
   }
-  TW::UniString message = TW::UniString::Printf(u"The property would depend on itself: %T.", way);
+  TW::UniString message = MakeText(TableText::Cycle, way);
   return {FormulaErrorKind::Cycle, range, std::move(message), std::nullopt, std::move(cycle)};
 }
 
@@ -88,6 +89,12 @@ bool PropertyTable::SetInput(PropertyIndex property, ElementIndex element, QX::E
   const TW::Optional<PropertyKind> kind = catalog_.Get(property).kind;
   if (kind && !FitToKind(value, *kind)) return false;
   if (columns_[property].SetValue(element, value)) MarkDependents(property, element);
+  return true;
+}
+
+bool PropertyTable::SetInputFailed(PropertyIndex property, ElementIndex element) {
+  if (!HasCell(property, element) || HasFormula(property)) return false;
+  if (columns_[property].SetFailure(element, {nullptr, 0, FailureKind::WrongKind})) MarkDependents(property, element);
   return true;
 }
 

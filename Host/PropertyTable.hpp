@@ -46,6 +46,9 @@ class PropertyTable final : public QX::IExpressionReferenceResolver {
   bool RemoveFormula(PropertyIndex property);
   /// Sets an input. Gives false when the property has a formula or the value is invalid or of another kind.
   bool SetInput(PropertyIndex property, ElementIndex element, QX::ExpressionValue value);
+  /// Makes an input one that has failed, because its source holds no value of its kind. Gives false when the property
+  /// has a formula.
+  bool SetInputFailed(PropertyIndex property, ElementIndex element);
   /// Says whether a property, input or formula, applies to an element; where it does not, the cell is absent. What is
   /// new applies.
   bool SetApplies(PropertyIndex property, ElementIndex element, bool applies);
