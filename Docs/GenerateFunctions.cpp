@@ -85,9 +85,9 @@ std::string MakePage() {
   Resources::SetLanguage("root");
   Settings settings;
   settings.display.units = {{TWUnit::LengthUnit::Meter, 4, 64},
-                    {TWUnit::AreaUnit::SquareMeter, 8},
-                    {TWUnit::VolumeUnit::CubicMeter, 8},
-                    {TWUnit::AngleUnit::DecimalDegree, 4}};
+                            {TWUnit::AreaUnit::SquareMeter, 8},
+                            {TWUnit::VolumeUnit::CubicMeter, 8},
+                            {TWUnit::AngleUnit::DecimalDegree, 4}};
   const Environment environment(Settings{});
   const Environment precise(settings);
   std::string page = Introduction;

@@ -9,8 +9,8 @@
 
 namespace Host {
 
-/// Why a formula or an input has no value for an element, as people are told. Ranges count the 16-bit units of the formula's text
-/// with names.
+/// Why a formula or an input has no value for an element, as people are told. Ranges count the 16-bit units of the
+/// formula's text with names.
 struct FailureReport {
   FailureKind kind = FailureKind::Evaluation;
   TW::UniString name;       ///< the name of the exception's class; `InvalidResult` or `WrongKind` for the other kinds
