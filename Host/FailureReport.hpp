@@ -21,9 +21,9 @@ struct FailureReport {
   TW::Range<unsigned int> span;   ///< of the node at fault and everything below it
 };
 
-/// Tells about the failure of a cell of `property`, whose formula is `expression`. The text of the formula is written
-/// in the separators of `settings`.
-FailureReport ReportFailure(const Failure& failure, const QX::Expression& expression, PropertyIndex property,
+/// Tells about the failure of `expression`, which an input has not, where a value of `kind` was expected, if any. The
+/// text of the formula is written in the separators of `settings`.
+FailureReport ReportFailure(const Failure& failure, const QX::Expression& expression, TW::Optional<PropertyKind> kind,
                             const PropertyCatalog& catalog, const EP::IParsingLocaleSettings& settings);
 
 /// The name alone, as in the report.
