@@ -13,10 +13,14 @@
 #include "TW/Optional.hpp"
 
 #include <cstddef>
+#include <functional>
 #include <string_view>
 #include <vector>
 
 namespace Host {
+
+/// Is told how many cells were computed so far.
+using RecalculationProgress = std::function<void(std::size_t computed)>;
 
 /// The properties of a building model: a column for each property, a row for each element. The values of a property are
 /// inputs, or its formula computes them from other properties of the same element.
@@ -55,8 +59,9 @@ class PropertyTable final : public QX::IExpressionReferenceResolver {
   void SetSettings(EvaluationSettings settings);
 
   /// Computes the cells that depend on what has changed, and no others, each after those that it depends on. Gives
-  /// their number. Nothing that a formula does is thrown.
-  std::size_t Recalculate();
+  /// their number. Nothing that a formula does is thrown. `progress` is told how many there were so far, after each
+  /// column and each single cell; it must not change the table.
+  std::size_t Recalculate(const RecalculationProgress& progress = {});
 
   const PropertyCatalog& GetCatalog() const { return catalog_; }
   const DependencyGraph& GetGraph() const { return graph_; }

@@ -7,6 +7,7 @@
 #include "TW/Optional.hpp"
 #include "TW/UniString.hpp"
 
+#include <cstdint>
 #include <string_view>
 
 namespace Host {
@@ -14,11 +15,14 @@ namespace Host {
 /// What every element of a model has, if perhaps empty.
 enum class ElementAttribute { Class, Name, GlobalId, Type, Storey, Tag };
 
+/// The attribute that a source such as `@class` names, if it names one.
+TW::Optional<ElementAttribute> FindElementAttribute(std::u16string_view name);
+
 /// The elements of a model, and the values that are known of them. Any number of threads may ask.
 class ElementSource {
  public:
   /// Numbers what values are read from: a property of a set, or a column.
-  using SourceIndex = unsigned int;
+  using SourceIndex = std::uint64_t;
 
   virtual ~ElementSource() = default;
 
