@@ -12,30 +12,29 @@ enum class ReportText : int {
   Class,
   Undefined,
   OneMoreElement,
-  MoreElements,  ///< %T: their number
-  AbsentLegend,  ///< %T: the sign
+  MoreElements,   ///< %T: their number
+  AbsentLegend,   ///< %T: the sign
   FailureLegend,  ///< %T: the first number
   Errors,
   OneElement,
-  Elements,  ///< %T: their number
-  Examples,  ///< %T: how many elements, %T: the names of some
+  Elements,      ///< %T: their number
+  Examples,      ///< %T: how many elements, %T: the names of some
   Consequences,  ///< %T: properties
   DoesNotApply,  ///< %T: a property
-  HasNoValue,  ///< %T: a property
-  Summary,  ///< %T: the numbers of elements, values, undefined ones, absent ones, errors
+  HasNoValue,    ///< %T: a property
+  Summary,       ///< %T: the numbers of elements, values, undefined ones, absent ones, errors
   Property,
   Value,
   Reason,
   Failed,
   NotTaken,
-  ReferredTo,
-  OfFormula,  ///< where a value comes from
-  MoreParts,  ///< %T: their number
-  UndefinedItself,  ///< %T: the property
+  OfFormula,           ///< where a value comes from
+  MoreParts,           ///< %T: their number
+  UndefinedItself,     ///< %T: the property
   UndefinedByFormula,  ///< %T: the property
-  UndefinedBecause,  ///< %T: the property, %T: where that began, %T: why
-  FailedItself,  ///< %T: the property, %T: the message
-  FailedBecause,  ///< %T: the property, %T: where that began, %T: the message
+  UndefinedBecause,    ///< %T: the property, %T: where that began, %T: why
+  FailedItself,        ///< %T: the property, %T: the message
+  FailedBecause,       ///< %T: the property, %T: where that began, %T: the message
 };
 
 template <class... Arguments>
