@@ -70,12 +70,12 @@ class ReportModel : public SmallModel {
   Host::DisplayText display{Host::DisplaySettings(), QX::EvaluationLocaleSettings(u'.', u',', 0)};
 };
 
-/// A sink that keeps everything.
+/// A sink that keeps everything, with plain blanks for those that hold a number and its unit together.
 template <class Write>
 std::string Collect(Write&& write) {
-  std::string text;
-  write([&](std::string_view piece) { text += piece; });
-  return text;
+  std::string whole;
+  write([&](std::string_view piece) { whole += piece; });
+  return TW::UniString::FromUtf8(whole).ReplaceAll(u"\u00A0", u" ").ToUtf8();
 }
 
 /// Two walls and a door: of every kind of cell at least one.
