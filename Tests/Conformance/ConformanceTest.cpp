@@ -1,5 +1,5 @@
-#include "Quorix/FunctionNodeRegistry.hpp"
 #include "Quorix/Formulas.hpp"
+#include "Quorix/FunctionNodeRegistry.hpp"
 
 #include <gtest/gtest.h>
 
