@@ -51,8 +51,12 @@ Status ModelOutput::GiveValues(const Host::ReportScope& scope, bool json) const 
   const bool written = WriteFiles(scope, summary);
   const Host::ReportSink toDiagnostics = [this](std::string_view piece) { diagnostics_.Write(piece); };
   // What fails is told even when a file cannot be written.
+  if (summary.failed != 0) diagnostics_.Write("\n");
   Host::WriteFailureList(scope, failures, toDiagnostics);
-  if (!diagnostics_.IsQuiet()) Host::WriteSummary(summary, toDiagnostics);
+  if (!diagnostics_.IsQuiet()) {
+    diagnostics_.Write("\n");
+    Host::WriteSummary(summary, toDiagnostics);
+  }
   if (!written) return Status::Unusable;
   return summary.failed == 0 ? Status::Success : Status::FormulaFailed;
 }
