@@ -85,6 +85,12 @@ class ReadersFolder {
   fs::path path_;
 };
 
+// Empty lines before the next command are there for the eye.
+std::string WithoutEmptyEnd(std::string text) {
+  while (text.ends_with('\n')) text.pop_back();
+  return text;
+}
+
 // What stands from one prompt to the next.
 void CheckSession(const Block& block, const fs::path& page) {
   const ReadersFolder folder;
@@ -94,10 +100,7 @@ void CheckSession(const Block& block, const fs::path& page) {
     while (command.ends_with("\\") && i < block.lines.size()) command += "\n" + block.lines[i++];
     std::string expected;
     while (i < block.lines.size() && !block.lines[i].starts_with("$ ")) expected += block.lines[i++] + "\n";
-    // An empty line before the next command is there for the eye.
-    while (expected.ends_with("\n\n")) expected.pop_back();
-    if (expected == "\n") expected.clear();
-    EXPECT_EQ(folder.Run(command), expected) << page << ": $ " << command;
+    EXPECT_EQ(WithoutEmptyEnd(folder.Run(command)), WithoutEmptyEnd(expected)) << page << ": $ " << command;
   }
 }
 
