@@ -31,13 +31,13 @@ install(FILES "${PROJECT_BINARY_DIR}/QuorixConfig.cmake" "${PROJECT_BINARY_DIR}/
   DESTINATION ${config} COMPONENT development)
 
 # From the folder of these files back to the prefix.
-file(RELATIVE_PATH pc_to_prefix "/prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/prefix")
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX BASE_DIRECTORY "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig" OUTPUT_VARIABLE pc_to_prefix)
 foreach(name IN ITEMS quorix quorix-host)
   configure_file(cmake/${name}.pc.in ${name}.pc @ONLY)
   install(FILES "${PROJECT_BINARY_DIR}/${name}.pc" DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
 endforeach()
 
-install(FILES LICENSE CHANGELOG.md README.md DESTINATION ${doc} COMPONENT library)
+install(FILES LICENSE CHANGELOG.md README.md DESTINATION ${doc} COMPONENT development)
 install(FILES Docs/Language.md Docs/Functions.md Docs/Persistence.md DESTINATION ${doc}/Docs COMPONENT development)
 
 if(QX_COMMAND)
