@@ -6,8 +6,7 @@ define_property(GLOBAL PROPERTY QX_LAYERS BRIEF_DOCS "Names of the layers" FULL_
 
 # qx_add_layer(<name> ROOT <include root> [USES <layer>...] [OFFERS <header>...] FILES <source and header>...)
 #
-# Installed are the headers under OFFERS, those that mark something for export, and what these include; all headers of a
-# layer that has neither.
+# Installed are the headers under OFFERS, those that mark something for export, and what these include.
 function(qx_add_layer name)
   cmake_parse_arguments(arg "" "ROOT" "USES;OFFERS;FILES" ${ARGN})
   add_library(${name} OBJECT ${arg_FILES})
