@@ -4,7 +4,6 @@
 
 #include "EP/Parser.hpp"
 #include "Host/Host.hpp"
-#include "Host/Ifc/IfcModel.hpp"
 #include "Quorix/Quorix.hpp"
 #include "Resources/Language.hpp"
 #include "TU/UnitFormatting.hpp"
