@@ -3,23 +3,31 @@
 #include "Host/ElementEnvironment.hpp"
 #include "Host/FormulaReader.hpp"
 #include "Host/FormulaText.hpp"
+#include "Host/Room.hpp"
 #include "Host/TableTexts.hpp"
 #include "Quorix/ExpressionSemanticExceptions.hpp"
 
 #include <algorithm>
 #include <exception>
+#include <new>
 #include <utility>
 
 namespace Host {
 
 TW::Optional<PropertyIndex> PropertyTable::Define(PropertyDefinition definition) {
-  const TW::Optional<PropertyKind> kind = definition.kind;
+  Column column(definition.kind);
+  column.Resize(elementCount_);
+  MakeRoom(columns_, 1);
+  MakeRoom(formulas_, 1);
+  graph_.MakeRoomForProperty();
+  pending_.MakeRoomForProperty();
   const TW::Optional<PropertyIndex> property = catalog_.Add(std::move(definition));
   if (!property) return std::nullopt;
+  // From here on nothing fails.
   graph_.AddProperty();
   pending_.AddProperty();
   formulas_.emplace_back();
-  columns_.emplace_back(kind).Resize(elementCount_);
+  columns_.push_back(std::move(column));
   FillInputs(*property, 0);
   return property;
 }
@@ -29,6 +37,9 @@ bool PropertyTable::Rename(PropertyIndex property, const TW::UniString& name, co
 }
 
 ElementIndex PropertyTable::AddElements(ElementIndex count) {
+  if (count > MaximumElementCount - elementCount_) throw std::bad_alloc();
+  for (Column& column : columns_) column.MakeRoomFor(elementCount_ + count);
+  // From here on nothing fails.
   const ElementIndex first = std::exchange(elementCount_, elementCount_ + count);
   for (PropertyIndex property = 0; property < columns_.size(); ++property) {
     columns_[property].Resize(elementCount_);
@@ -117,6 +128,10 @@ bool PropertyTable::SetApplies(PropertyIndex property, ElementIndex element, boo
 
 void PropertyTable::SetSettings(EvaluationSettings settings) {
   settings_ = std::move(settings);
+  MarkFormulas();
+}
+
+void PropertyTable::MarkFormulas() noexcept {
   for (PropertyIndex property = 0; property < columns_.size(); ++property) {
     if (HasFormula(property)) pending_.MarkColumn(property);
   }
@@ -143,7 +158,12 @@ std::size_t PropertyTable::Recalculate() {
   std::size_t count = 0;
   graph_.UpdateRanks();
   pending_.Sort(graph_);
-  while (const TW::Optional<PendingCells::Cell> cell = pending_.Take(graph_)) Compute(*cell, count);
+  try {
+    while (const TW::Optional<PendingCells::Cell> cell = pending_.Take(graph_)) Compute(*cell, count);
+  } catch (...) {
+    MarkFormulas();
+    throw;
+  }
   return count;
 }
 
@@ -169,18 +189,25 @@ bool PropertyTable::ComputeCell(PropertyIndex property, ElementIndex element, st
   ++count;
   const ElementEnvironment environment(*this, element, graph_.GetPrecedents(property));
   try {
-    QX::ExpressionValue value = formulas_[property].Evaluate(environment);
-    if (!value.IsValid()) return column.SetFailure(element, {nullptr, 0, FailureKind::InvalidResult});
-    const TW::Optional<PropertyKind> kind = catalog_.Get(property).kind;
-    if (kind && !FitToKind(value, *kind)) return column.SetFailure(element, {nullptr, 0, FailureKind::WrongKind});
-    return column.SetValue(element, value);
+    return KeepResult(property, element, formulas_[property].Evaluate(environment));
   } catch (const QX::ExpressionSemanticException& failure) {
+    if (environment.HasLackedMemory()) pending_.MarkCell(property, element);
     return column.SetFailure(element, {failure.GetSource(), failure.GetResIdx(), FailureKind::Evaluation});
   } catch (const std::exception&) {
     // A text may grow beyond the memory; that is the trouble of this cell alone.
+    pending_.MarkCell(property, element);
     const short resourceIndex = QX::ExpressionInternalErrorException(nullptr).GetResIdx();
     return column.SetFailure(element, {nullptr, resourceIndex, FailureKind::Evaluation});
   }
+}
+
+bool PropertyTable::KeepResult(PropertyIndex property, ElementIndex element, QX::ExpressionValue value) {
+  Column& column = columns_[property];
+  const bool isTooLong = value.IsString() && value.GetAsString().GetLength() > LongestText;
+  if (!value.IsValid() || isTooLong) return column.SetFailure(element, {nullptr, 0, FailureKind::InvalidResult});
+  const TW::Optional<PropertyKind> kind = catalog_.Get(property).kind;
+  if (kind && !FitToKind(value, *kind)) return column.SetFailure(element, {nullptr, 0, FailureKind::WrongKind});
+  return column.SetValue(element, value);
 }
 
 const QX::Expression* PropertyTable::FindFormula(PropertyIndex property) const {
