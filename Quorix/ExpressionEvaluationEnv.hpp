@@ -17,7 +17,8 @@ enum class EvaluableStatus {
 };
 
 /// What evaluation asks of the host. The library holds it for the duration of one call only and may ask from any thread
-/// that evaluates.
+/// that evaluates. What an operation throws, whatever it is, ends the evaluation and reaches its caller unchanged, but
+/// for `GetPropertyValue`; the formula stays as it was.
 class QX_EXPORT IExpressionEvaluationEnv {
  public:
   virtual ~IExpressionEvaluationEnv() = default;
@@ -32,7 +33,8 @@ class QX_EXPORT IExpressionEvaluationEnv {
   virtual bool IsUserUndefinedPropagationEnabled() const = 0;
 };
 
-/// The host's graph of properties, for the search for cycles.
+/// The host's graph of properties, for the search for cycles. What it throws ends the search and reaches its caller;
+/// the path stays as it was.
 class QX_EXPORT IExpressionReferenceResolver {
  public:
   virtual ~IExpressionReferenceResolver() = default;

@@ -17,7 +17,7 @@ using QX::Expression;
 // Numbers, quantities, every function of texts, long chains, references, and what fails.
 constexpr const char* Formulas[] = {
     "1 + 2 * 3 - 4 / 5 ^ 2",
-    "MROUND ( 12.34 m * 2 m, 1 m2 ) + ROUND ( 3.5 ) * 1 m2 - {1} * 1 m2",
+    "MROUND ( 12.34 m * 2 m, 1 m2 ) + ROUND ( 3.5, 0 ) * 1 m2 - {1} * 1 m2",
     "1 + 2 + 3 + 4 + 5 + 6 + 7 + 8 + 9 + 10 + 11 + 12 = 1",
     "SUM ( 1, 2, 3, 4, 5, 6, 7, 8, 9 ) + AVG ( 1, 2 ) + MAX ( {2}, {3} )",
     "IF ( 2 1/4\" > 1 m, \"a long text of one branch\", \"a long text of the other\" )",
@@ -30,7 +30,7 @@ constexpr const char* Formulas[] = {
     "REPLACE ( \"the whole of a text\", 3, 6, \"nothing much, really\" )",
     "SPLIT ( \"first part;second part;third\", \";\", 2 )",
     "FIND ( \"B\", \"aaaaaaaaaaaab\", 1, FALSE )",
-    "STR ( 12345.678 m, 2 )",
+    "STR ( 12345.678, 2 )",
     "STRCALCUNIT ( 12.5 m )",
     "STRTONUM ( \"1234567.5\" )",
     "IFS ( FALSE, \"never to be seen\", ISUNDEFINED ( {undefined text} ), \"always to be seen\" )",
