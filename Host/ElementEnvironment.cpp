@@ -50,4 +50,6 @@ bool ElementEnvironment::IsUserUndefinedPropagationEnabled() const {
   return table_.GetSettings().isUndefinedPropagationEnabled;
 }
 
+unsigned int ElementEnvironment::GetLongestText() const { return PropertyTable::LongestText; }
+
 }  // namespace Host

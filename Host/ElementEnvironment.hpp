@@ -29,6 +29,8 @@ class ElementEnvironment final : public QX::IExpressionEvaluationEnv {
   const QX::IExpressionUnitConverter& GetUnitConverter() const override;
   const QX::IEvaluationLocaleSettings& GetLocaleSettings() const override;
   bool IsUserUndefinedPropagationEnabled() const override;
+  /// `PropertyTable::LongestText`.
+  unsigned int GetLongestText() const override;
 
   /// Whether a value could not be given for want of memory.
   bool HasLackedMemory() const { return hasLackedMemory_; }

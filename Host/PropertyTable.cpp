@@ -190,6 +190,8 @@ bool PropertyTable::ComputeCell(PropertyIndex property, ElementIndex element, st
   const ElementEnvironment environment(*this, element, graph_.GetPrecedents(property));
   try {
     return KeepResult(property, element, formulas_[property].Evaluate(environment));
+  } catch (const QX::ExpressionTextTooLongException& failure) {
+    return column.SetFailure(element, {failure.GetSource(), 0, FailureKind::InvalidResult});
   } catch (const QX::ExpressionSemanticException& failure) {
     if (environment.HasLackedMemory()) pending_.MarkCell(property, element);
     return column.SetFailure(element, {failure.GetSource(), failure.GetResIdx(), FailureKind::Evaluation});

@@ -29,8 +29,8 @@ namespace Host {
 /// are refused by what changes, and what reads answers them as it answers for a cell that is not computed.
 class PropertyTable final : public QX::IExpressionReferenceResolver {
  public:
-  /// How many units a text may have that a formula computes. A longer one fails, so that formulas which double each
-  /// other's texts do not use up the memory.
+  /// How many units a text may have that a formula, or a function within it, computes. A longer one fails, so that
+  /// formulas which multiply texts do not use up the memory.
   static constexpr unsigned int LongestText = 1U << 20U;
   static constexpr ElementIndex MaximumElementCount = std::numeric_limits<ElementIndex>::max() - 1;
 

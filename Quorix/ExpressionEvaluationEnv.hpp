@@ -7,6 +7,8 @@
 #include "TW/Guid.hpp"
 #include "TW/HashSet.hpp"
 
+#include <limits>
+
 namespace QX {
 
 /// Whether a property can be evaluated. The two reasons against it are the host's own; the library passes them on.
@@ -31,6 +33,9 @@ class QX_EXPORT IExpressionEvaluationEnv {
   virtual const IEvaluationLocaleSettings& GetLocaleSettings() const = 0;
   /// Whether logical functions evaluate every argument, so that undefined values and errors anywhere come through.
   virtual bool IsUserUndefinedPropagationEnabled() const = 0;
+  /// How many units a text may have that a function makes; a longer one throws `ExpressionTextTooLongException`. A host
+  /// that says nothing has no limit but that of texts.
+  virtual unsigned int GetLongestText() const { return std::numeric_limits<unsigned int>::max(); }
 };
 
 /// The host's graph of properties, for the search for cycles. What it throws ends the search and reaches its caller;

@@ -113,6 +113,10 @@ class ThrowingHost final : public QX::IExpressionEvaluationEnv,
     trap.Pass("propagation");
     return false;
   }
+  unsigned int GetLongestText() const override {
+    trap.Pass("longest text");
+    return 1'000'000;
+  }
   TW::HashSet<TW::Guid> GetDirectReferences(const TW::Guid& id) const override {
     trap.Pass("references");
     TW::HashSet<TW::Guid> next;

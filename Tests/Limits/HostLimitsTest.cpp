@@ -57,14 +57,41 @@ TEST(HostLimits, TextsThatDoubleEndInAFailure) {
   }
 }
 
-// What one formula multiplies is a matter of its own: a text of 2^32 units cannot be, and the cell fails.
+// What is too long within a formula fails before it takes memory, whatever becomes of it.
 TEST(HostLimits, AFormulaThatMultipliesTextsEndsInAFailure) {
   SmallModel model;
   model.table.AddElements(1);
-  const PropertyIndex text = model.DefineFormula("Text", "REPT(REPT(\"x\", 65536), 65536)");
-  model.table.Recalculate();
-  EXPECT_EQ(FailureOf(model, text), "ExpressionInternalErrorException");
-  EXPECT_EQ(model.table.Recalculate(), 1U) << "memory may have come free";
+  const PropertyIndex text = model.Define("Text");
+  struct Row {
+    const char* within;
+    double length;
+    const char* beyond;
+  };
+  const Row rows[] = {
+      {"LEN(REPT(\"xy\", 524288))", 1048576, "LEN(REPT(\"xy\", 524289))"},
+      {"LEN(REPT(REPT(\"x\", 1024), 1024))", 1048576, "LEN(REPT(REPT(\"x\", 65536), 65536))"},
+      {"LEN(CONCAT(REPT(\"x\", 524288), REPT(\"x\", 524288)))", 1048576,
+       "LEN(CONCAT(REPT(\"x\", 524288), REPT(\"x\", 524288), \"x\"))"},
+      {"LEN(TEXTJOIN(\",\", TRUE, REPT(\"x\", 524288), REPT(\"x\", 524287)))", 1048576,
+       "LEN(TEXTJOIN(\",\", TRUE, REPT(\"x\", 524288), REPT(\"x\", 524288)))"},
+      {"LEN(SUBSTITUTE(REPT(\"ab\", 262144), \"a\", \"xyz\"))", 1048576,
+       "LEN(SUBSTITUTE(REPT(\"ab\", 262145), \"a\", \"xyz\"))"},
+      {"LEN(SUBSTITUTE(REPT(\"ab\", 524288), \"ab\", \"x\"))", 524288,
+       "LEN(SUBSTITUTE(REPT(\"a\", 1000000), \"a\", REPT(\"b\", 1000000)))"},
+      {"LEN(SUBSTITUTE(REPT(\"a\", 1048575), \"a\", \"bc\", 7))", 1048576,
+       "LEN(SUBSTITUTE(REPT(\"a\", 1048576), \"a\", \"bc\", 7))"},
+      {"LEN(REPLACE(REPT(\"a\", 1048575), 1, 1, \"bc\"))", 1048576, "LEN(REPLACE(REPT(\"a\", 1048576), 1, 1, \"bc\"))"},
+      {"LEN(UPPER(REPT(\"ß\", 524288)))", 1048576, "LEN(UPPER(REPT(\"ß\", 524289)))"},
+  };
+  for (const Row& row : rows) {
+    ASSERT_FALSE(model.SetFormula(text, row.within));
+    model.table.Recalculate();
+    EXPECT_EQ(model.GetNumber(text), row.length) << row.within;
+    ASSERT_FALSE(model.SetFormula(text, row.beyond));
+    EXPECT_EQ(model.table.Recalculate(), 1U);
+    EXPECT_EQ(FailureOf(model, text), "InvalidResult") << row.beyond;
+    EXPECT_EQ(model.table.Recalculate(), 0U);
+  }
 }
 
 TEST(HostLimits, OfElements) {
