@@ -9,6 +9,8 @@ OutputFrame::OutputFrame(OChannel& channel, const ClassInfo& info) : channel_(&c
 OutputFrame::~OutputFrame() {
   if (channel_ == nullptr) return;
   OChannel& channel = *channel_;
+  // What an exception has cut short is no frame.
+  if (std::uncaught_exceptions() > exceptions_) channel.SetStatus(ErrWriteFailed);
   try {
     Close();
   } catch (...) {
@@ -41,7 +43,11 @@ InputFrame::InputFrame(IChannel& channel, const ClassInfo& info) : channel_(chan
 }
 
 InputFrame::~InputFrame() {
-  if (channel_.GetInputStatus() == NoErr) channel_.Skip(channel_.limit_ - channel_.position_);
+  try {
+    if (channel_.GetInputStatus() == NoErr) channel_.Skip(channel_.limit_ - channel_.position_);
+  } catch (...) {
+    channel_.SetStatus(ErrReadFailed);
+  }
   channel_.limit_ = outerLimit_;
 }
 
