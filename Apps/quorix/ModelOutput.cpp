@@ -36,7 +36,10 @@ Status ModelOutput::Give(bool json) {
   if (!ChooseProperties(scope) || !ChooseElements(scope)) return Status::Unusable;
   Status status = Explain(scope);
   const bool drawn = WriteGraphs(scope);
-  if (json || options_.IsTableShown() || !options_.outputs.empty()) status = std::max(status, GiveValues(scope, json));
+  const bool isAllAsked = options_.explanations.empty() && options_.graphs.empty();
+  if (isAllAsked || json || options_.IsTableShown() || !options_.outputs.empty()) {
+    status = std::max(status, GiveValues(scope, json));
+  }
   return drawn ? status : Status::Unusable;
 }
 

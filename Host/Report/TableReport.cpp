@@ -61,7 +61,7 @@ class Printer {
       const std::size_t count = FindBlock(rest);
       PrintBlock(rest.first(count));
       rest = rest.subspan(count);
-      buffer_.GetText() += '\n';
+      if (!rest.empty()) buffer_.GetText() += '\n';
     } while (!rest.empty());
     PrintLegend();
     buffer_.Flush();
@@ -189,6 +189,8 @@ class Printer {
   }
 
   void PrintLegend() {
+    const bool hasMore = elements_.size() < scope_.elements.size();
+    if (hasMore || hasAbsent_ || firstFailure_ != 0) buffer_.GetText() += '\n';
     if (const std::size_t rest = scope_.elements.size() - elements_.size(); rest > 0) {
       PrintLine(MakeCountText(ReportText::OneMoreElement, ReportText::MoreElements, rest));
     }
