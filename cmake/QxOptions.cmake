@@ -2,6 +2,7 @@
 
 option(QX_WERROR "Treat warnings as errors" OFF)
 set(QX_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined or thread")
+option(QX_FUZZERS "Build the fuzzers, and everything so that they see which code runs (clang alone)" OFF)
 
 add_library(qx_options INTERFACE)
 target_compile_features(qx_options INTERFACE cxx_std_20)
@@ -13,6 +14,14 @@ endif()
 if(QX_SANITIZE)
   target_compile_options(qx_options INTERFACE -fsanitize=${QX_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
   target_link_options(qx_options INTERFACE -fsanitize=${QX_SANITIZE})
+endif()
+
+if(QX_FUZZERS)
+  if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    message(FATAL_ERROR "QX_FUZZERS needs clang: use the preset fuzz")
+  endif()
+  target_compile_options(qx_options INTERFACE -fsanitize=fuzzer-no-link)
+  target_link_options(qx_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 set(CMAKE_CXX_EXTENSIONS OFF)
