@@ -84,10 +84,10 @@ void AppendGroup(std::string& page, const WordGroup& group, const Environment& e
 std::string MakePage() {
   Resources::SetLanguage("root");
   Settings settings;
-  settings.units = {{TWUnit::LengthUnit::Meter, 4, 64},
-                    {TWUnit::AreaUnit::SquareMeter, 8},
-                    {TWUnit::VolumeUnit::CubicMeter, 8},
-                    {TWUnit::AngleUnit::DecimalDegree, 4}};
+  settings.display.units = {{TWUnit::LengthUnit::Meter, 4, 64},
+                            {TWUnit::AreaUnit::SquareMeter, 8},
+                            {TWUnit::VolumeUnit::CubicMeter, 8},
+                            {TWUnit::AngleUnit::DecimalDegree, 4}};
   const Environment environment(Settings{});
   const Environment precise(settings);
   std::string page = Introduction;

@@ -18,7 +18,7 @@ enum class CellStatus : std::uint8_t {
 enum class FailureKind : std::uint8_t {
   Evaluation,     ///< an operation of the formula failed
   InvalidResult,  ///< the formula gave an invalid value, as after an overflow
-  WrongKind,      ///< the result is not of the kind that the property was declared with
+  WrongKind,      ///< the result, or what the source of an input holds, is not of the declared kind
 };
 
 /// Why a formula has no value for an element, as cells keep it.

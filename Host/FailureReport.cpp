@@ -1,9 +1,9 @@
 #include "Host/FailureReport.hpp"
 
 #include "Host/FormulaText.hpp"
+#include "Host/NodeSpan.hpp"
+#include "Host/TableTexts.hpp"
 #include "Quorix/ExpressionSemanticExceptions.hpp"
-
-#include <algorithm>
 
 namespace Host {
 namespace {
@@ -43,48 +43,32 @@ ExceptionTexts FindExceptionTexts(short resourceIndex) {
                    QX::ExpressionPropertyEvaluationFailed>(resourceIndex);
 }
 
-ExceptionTexts FindTextsOf(const Failure& failure, const PropertyDefinition* definition) {
-  switch (failure.kind) {
-    case FailureKind::Evaluation:
-      return FindExceptionTexts(failure.resourceIndex);
-    case FailureKind::InvalidResult:
-      return {u"InvalidResult", u"The result is too large for a number."};
-    default:
-      break;
-  }
-  const bool hasKind = definition != nullptr && definition->kind;
-  const TW::UniString kind(hasKind ? GetKindName(*definition->kind) : std::u16string_view());
-  return {u"WrongKind", TW::UniString::Printf(u"The result is not of the kind %T.", kind)};
-}
-
-// A node that wrote nothing itself does not widen the span.
-TextRange FindSpan(const QX::ExpressionNode& node, const QX::ExpressionString& text) {
-  TextRange span = text.GetNodeRange(&node);
-  node.EnumerateRecursive([&](const QX::ExpressionNode* below) {
-    if (!text.HasNodeRange(below)) return;
-    const TextRange range = text.GetNodeRange(below);
-    span = {std::min(span.begin, range.begin), std::max(span.end, range.end)};
-  });
-  return span;
+TW::UniString MakeMessage(const Failure& failure, TW::Optional<PropertyKind> kind, bool hasFormula) {
+  if (failure.kind == FailureKind::Evaluation) return FindExceptionTexts(failure.resourceIndex).message;
+  if (failure.kind == FailureKind::InvalidResult) return MakeText(TableText::ResultTooLarge);
+  const TableText text = hasFormula ? TableText::WrongResult : TableText::WrongInput;
+  return MakeText(text, kind ? MakeKindText(*kind) : TW::UniString());
 }
 
 }  // namespace
 
-FailureReport ReportFailure(const Failure& failure, const QX::Expression& expression, PropertyIndex property,
+FailureReport ReportFailure(const Failure& failure, const QX::Expression& expression, TW::Optional<PropertyKind> kind,
                             const PropertyCatalog& catalog, const EP::IParsingLocaleSettings& settings) {
   FailureReport report{failure.kind, {}, failure.resourceIndex, {}, {}, {}, {}};
-  ExceptionTexts texts = FindTextsOf(failure, &catalog.Get(property));
-  report.name = std::move(texts.name);
-  report.message = std::move(texts.message);
+  report.name = GetFailureName(failure);
+  report.message = MakeMessage(failure, kind, expression.IsValid());
   if (!expression.IsValid()) return report;
   const QX::ExpressionString text = RenderWithNames(*expression.GetRoot(), settings, catalog);
   report.formula = text.GetFullString();
   // The whole formula is at fault where no node is.
   report.range = failure.node != nullptr ? text.GetNodeRange(failure.node) : TextRange{0, report.formula.GetLength()};
-  report.span = failure.node != nullptr ? FindSpan(*failure.node, text) : report.range;
+  report.span = failure.node != nullptr ? GetSpan(text, *failure.node) : report.range;
   return report;
 }
 
-TW::UniString GetFailureName(const Failure& failure) { return FindTextsOf(failure, nullptr).name; }
+TW::UniString GetFailureName(const Failure& failure) {
+  if (failure.kind == FailureKind::Evaluation) return FindExceptionTexts(failure.resourceIndex).name;
+  return failure.kind == FailureKind::InvalidResult ? u"InvalidResult" : u"WrongKind";
+}
 
 }  // namespace Host

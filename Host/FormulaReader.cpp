@@ -4,6 +4,7 @@
 #include "EP/SyntaxTree.hpp"
 #include "Host/FormulaText.hpp"
 #include "Host/NamingTreeBuilder.hpp"
+#include "Host/TableTexts.hpp"
 
 #include <algorithm>
 #include <span>
@@ -21,15 +22,11 @@ FormulaError MakeError(const EP::SyntaxErrorException& error, TextRange range, s
   }
   const TW::UniString name(typed.substr(range.begin, range.GetLength()));
   if (meanings.empty()) {
-    return {FormulaErrorKind::UnknownName,
-            range,
-            TW::UniString::Printf(u"There is no property %T.", name),
-            std::nullopt,
-            {}};
+    return {FormulaErrorKind::UnknownName, range, MakeText(TableText::UnknownName, name), std::nullopt, {}};
   }
   return {FormulaErrorKind::AmbiguousName,
           range,
-          TW::UniString::Printf(u"Several properties are named %T.", name),
+          MakeText(TableText::AmbiguousName, name),
           std::nullopt,
           {meanings.begin(), meanings.end()}};
 }

@@ -1,12 +1,12 @@
 #include "Host/PropertyTable.hpp"
 
+#include "Host/CellEvaluation.hpp"
 #include "Host/ElementEnvironment.hpp"
 #include "Host/FormulaReader.hpp"
 #include "Host/FormulaText.hpp"
-#include "Quorix/ExpressionSemanticExceptions.hpp"
+#include "Host/TableTexts.hpp"
 
 #include <algorithm>
-#include <exception>
 #include <utility>
 
 namespace Host {
@@ -45,7 +45,7 @@ ElementIndex PropertyTable::AddElements(ElementIndex count) {
 TW::Optional<FormulaError> PropertyTable::SetFormula(PropertyIndex property, std::u16string_view text,
                                                      const EP::IParsingLocaleSettings& settings) {
   if (property >= catalog_.GetCount()) {
-    return FormulaError{FormulaErrorKind::NoSuchProperty, {}, u"There is no such property.", std::nullopt, {}};
+    return FormulaError{FormulaErrorKind::NoSuchProperty, {}, MakeText(TableText::NoSuchProperty), std::nullopt, {}};
   }
   ReadFormula read = ReadFormulaWithNames(text, settings, catalog_);
   if (read.error) return std::move(read.error);
@@ -69,7 +69,7 @@ FormulaError PropertyTable::MakeCycleError(std::vector<PropertyIndex> cycle, TW:
     if (!way.IsEmpty()) way += u" \u2192 ";
     way += catalog_.MakeReference(property);
   }
-  TW::UniString message = TW::UniString::Printf(u"The property would depend on itself: %T.", way);
+  TW::UniString message = MakeText(TableText::Cycle, way);
   return {FormulaErrorKind::Cycle, range, std::move(message), std::nullopt, std::move(cycle)};
 }
 
@@ -88,6 +88,12 @@ bool PropertyTable::SetInput(PropertyIndex property, ElementIndex element, QX::E
   const TW::Optional<PropertyKind> kind = catalog_.Get(property).kind;
   if (kind && !FitToKind(value, *kind)) return false;
   if (columns_[property].SetValue(element, value)) MarkDependents(property, element);
+  return true;
+}
+
+bool PropertyTable::SetInputFailed(PropertyIndex property, ElementIndex element) {
+  if (!HasCell(property, element) || HasFormula(property)) return false;
+  if (columns_[property].SetFailure(element, {nullptr, 0, FailureKind::WrongKind})) MarkDependents(property, element);
   return true;
 }
 
@@ -132,11 +138,14 @@ void PropertyTable::MarkDependents(PropertyIndex property, ElementIndex element)
   for (const PropertyIndex dependent : graph_.GetDependents(property)) pending_.MarkCell(dependent, element);
 }
 
-std::size_t PropertyTable::Recalculate() {
+std::size_t PropertyTable::Recalculate(const RecalculationProgress& progress) {
   std::size_t count = 0;
   graph_.UpdateRanks();
   pending_.Sort(graph_);
-  while (const TW::Optional<PendingCells::Cell> cell = pending_.Take(graph_)) Compute(*cell, count);
+  while (const TW::Optional<PendingCells::Cell> cell = pending_.Take(graph_)) {
+    Compute(*cell, count);
+    if (progress) progress(count);
+  }
   return count;
 }
 
@@ -161,19 +170,8 @@ bool PropertyTable::ComputeCell(PropertyIndex property, ElementIndex element, st
   if (column.GetStatus(element) == CellStatus::Absent) return false;
   ++count;
   const ElementEnvironment environment(*this, element, graph_.GetPrecedents(property));
-  try {
-    QX::ExpressionValue value = formulas_[property].Evaluate(environment);
-    if (!value.IsValid()) return column.SetFailure(element, {nullptr, 0, FailureKind::InvalidResult});
-    const TW::Optional<PropertyKind> kind = catalog_.Get(property).kind;
-    if (kind && !FitToKind(value, *kind)) return column.SetFailure(element, {nullptr, 0, FailureKind::WrongKind});
-    return column.SetValue(element, value);
-  } catch (const QX::ExpressionSemanticException& failure) {
-    return column.SetFailure(element, {failure.GetSource(), failure.GetResIdx(), FailureKind::Evaluation});
-  } catch (const std::exception&) {
-    // A text may grow beyond the memory; that is the trouble of this cell alone.
-    const short resourceIndex = QX::ExpressionInternalErrorException(nullptr).GetResIdx();
-    return column.SetFailure(element, {nullptr, resourceIndex, FailureKind::Evaluation});
-  }
+  const CellResult result = EvaluateCell(formulas_[property], environment, catalog_.Get(property).kind);
+  return result.failure ? column.SetFailure(element, *result.failure) : column.SetValue(element, result.value);
 }
 
 const QX::Expression* PropertyTable::FindFormula(PropertyIndex property) const {
@@ -202,7 +200,7 @@ TW::Optional<FailureReport> PropertyTable::GetFailureReport(PropertyIndex proper
                                                             const EP::IParsingLocaleSettings& settings) const {
   const Failure* failure = FindFailure(property, element);
   if (failure == nullptr) return std::nullopt;
-  return ReportFailure(*failure, formulas_[property], property, catalog_, settings);
+  return ReportFailure(*failure, formulas_[property], catalog_.Get(property).kind, catalog_, settings);
 }
 
 TW::HashSet<TW::Guid> PropertyTable::GetDirectReferences(const TW::Guid& propertyId) const {

@@ -13,10 +13,14 @@
 #include "TW/Optional.hpp"
 
 #include <cstddef>
+#include <functional>
 #include <string_view>
 #include <vector>
 
 namespace Host {
+
+/// Is told how many cells were computed so far.
+using RecalculationProgress = std::function<void(std::size_t computed)>;
 
 /// The properties of a building model: a column for each property, a row for each element. The values of a property are
 /// inputs, or its formula computes them from other properties of the same element.
@@ -46,14 +50,18 @@ class PropertyTable final : public QX::IExpressionReferenceResolver {
   bool RemoveFormula(PropertyIndex property);
   /// Sets an input. Gives false when the property has a formula or the value is invalid or of another kind.
   bool SetInput(PropertyIndex property, ElementIndex element, QX::ExpressionValue value);
+  /// Makes an input one that has failed, because its source holds no value of its kind. Gives false when the property
+  /// has a formula.
+  bool SetInputFailed(PropertyIndex property, ElementIndex element);
   /// Says whether a property, input or formula, applies to an element; where it does not, the cell is absent. What is
   /// new applies.
   bool SetApplies(PropertyIndex property, ElementIndex element, bool applies);
   void SetSettings(EvaluationSettings settings);
 
   /// Computes the cells that depend on what has changed, and no others, each after those that it depends on. Gives
-  /// their number. Nothing that a formula does is thrown.
-  std::size_t Recalculate();
+  /// their number. Nothing that a formula does is thrown. `progress` is told how many there were so far, after each
+  /// column and each single cell; it must not change the table.
+  std::size_t Recalculate(const RecalculationProgress& progress = {});
 
   const PropertyCatalog& GetCatalog() const { return catalog_; }
   const DependencyGraph& GetGraph() const { return graph_; }

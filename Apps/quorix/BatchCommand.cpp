@@ -1,7 +1,7 @@
 #include "Answer.hpp"
 #include "CommandEntry.hpp"
 #include "CommonOptions.hpp"
-#include "JsonDocument.hpp"
+#include "Host/Json/JsonDocument.hpp"
 #include "LineReader.hpp"
 #include "Request.hpp"
 
@@ -30,7 +30,7 @@ class Batch {
     const std::size_t before = results_.GetBuffer().size();
     try {
       WriteLine(line);
-    } catch (const JsonError& error) {
+    } catch (const Host::JsonError& error) {
       Refuse("InvalidJson", TW::UniString::FromUtf8(std::string("This line is no JSON: ") + error.what()));
     } catch (const RequestError& error) {
       Refuse(error.GetName(), TW::UniString::FromUtf8(error.what()));
@@ -53,7 +53,7 @@ class Batch {
 
  private:
   void WriteLine(std::string_view line) {
-    const JsonValue request = document_.Read(line);
+    const Host::JsonValue request = document_.Read(line);
     id_ = ReadId(request);
     ReadRequest(request, defaults_, formula_, environment_);
     readable_ = true;
@@ -65,7 +65,7 @@ class Batch {
 
   void Refuse(std::string_view name, std::u16string_view message) {
     status_ = Status::FormulaFailed;
-    JsonWriter writer(results_.GetBuffer());
+    Host::JsonWriter writer(results_.GetBuffer());
     WriteRefusal(writer, id_, name, message);
   }
 
@@ -93,13 +93,13 @@ class Batch {
   }
 
   void WriteEvaluation() {
-    JsonWriter writer(results_.GetBuffer());
+    Host::JsonWriter writer(results_.GetBuffer());
     WriteAnswer(writer, id_, evaluation_, environment_);
   }
 
   const Settings& defaults_;
   Output& results_;
-  JsonDocument document_;
+  Host::JsonDocument document_;
   TW::UniString formula_;
   Environment environment_;
   Evaluation evaluation_;

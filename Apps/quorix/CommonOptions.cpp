@@ -1,11 +1,11 @@
 #include "CommonOptions.hpp"
 
 #include "Evaluation.hpp"
+#include "Host/Display/UnitNames.hpp"
 #include "MemoryLimit.hpp"
 #include "Resources/Language.hpp"
 #include "TW/SystemSymbols.hpp"
 #include "UndefinedValue.hpp"
-#include "UnitNames.hpp"
 
 #include <algorithm>
 #include <charconv>
@@ -42,7 +42,8 @@ Number ReadNumber(std::string_view text, Number maximum) {
 
 template <class Unit>
 void ReadUnit(std::string_view name, Unit& unit) {
-  if (!FindUnit(TW::UniString::FromUtf8(name), unit)) throw UsageError("must be one of " + GetUnitNames(unit) + ".");
+  if (!Host::FindUnit(TW::UniString::FromUtf8(name), unit))
+    throw UsageError("must be one of " + Host::GetUnitNames(unit) + ".");
 }
 
 ExpressionValue ReadValue(std::string_view name, std::string_view text, const Environment& environment) {
@@ -82,16 +83,22 @@ void CommonOptions::AddSeparators(OptionTable& options) {
 }
 
 void CommonOptions::AddUnits(OptionTable& options) {
-  const auto add = [&options](std::string_view name, std::string_view decimalsName, std::string_view help, auto& data) {
-    options.AddValue(name, "U", help, [&data](std::string_view text) { ReadUnit(text, data.unit); });
-    options.AddValue(decimalsName, "N", "its decimals (default 2)", [&data](std::string_view text) {
-      data.decimals = ReadNumber(text, std::numeric_limits<unsigned short>::max());
+  const auto add = [this, &options](std::string_view name, std::string_view decimalsName, std::string_view help,
+                                    auto member) {
+    options.AddValue(name, "U", help, [this, member](std::string_view text) {
+      auto unit = (Host::DisplayUnits().*member).unit;
+      ReadUnit(text, unit);
+      unitChanges_.emplace_back([member, unit](Host::DisplayUnits& units) { (units.*member).unit = unit; });
+    });
+    options.AddValue(decimalsName, "N", "its decimals (default 2)", [this, member](std::string_view text) {
+      const auto decimals = ReadNumber(text, std::numeric_limits<unsigned short>::max());
+      unitChanges_.emplace_back([member, decimals](Host::DisplayUnits& units) { (units.*member).decimals = decimals; });
     });
   };
-  add("length-unit", "length-decimals", "m, dm, cm, mm, ft-frac, ft-dec, ft, in-frac, in", units_.length);
-  add("area-unit", "area-decimals", "m2, cm2, mm2, ft2, in2", units_.area);
-  add("volume-unit", "volume-decimals", "m3, l, cm3, y3, ft3, in3, gal", units_.volume);
-  add("angle-unit", "angle-decimals", "degree, dms, gon, rad", units_.angle);
+  add("length-unit", "length-decimals", "m, dm, cm, mm, ft-frac, ft-dec, ft, in-frac, in", &Host::DisplayUnits::length);
+  add("area-unit", "area-decimals", "m2, cm2, mm2, ft2, in2", &Host::DisplayUnits::area);
+  add("volume-unit", "volume-decimals", "m3, l, cm3, y3, ft3, in3, gal", &Host::DisplayUnits::volume);
+  add("angle-unit", "angle-decimals", "degree, dms, gon, rad", &Host::DisplayUnits::angle);
 }
 
 void CommonOptions::AddProperty(std::string_view assignment) {
@@ -109,7 +116,7 @@ Settings CommonOptions::GetSettings(Settings defaults) const {
   defaults.locale = {decimal_.value_or(locale.GetDecimalSeparator()), list_.value_or(locale.GetListSeparator()),
                      thousand_.value_or(locale.GetThousandSeparator())};
   defaults.renderLocale = defaults.locale;
-  defaults.units = units_;
+  for (const auto& change : unitChanges_) change(defaults.display.units);
   defaults.propagateUndefined = propagateUndefined_;
   return defaults;
 }

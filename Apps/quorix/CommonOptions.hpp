@@ -6,6 +6,7 @@
 #include "Settings.hpp"
 #include "TW/Optional.hpp"
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -42,7 +43,7 @@ class CommonOptions {
   Separator decimal_;
   Separator list_;
   Separator thousand_;
-  DisplayUnits units_;
+  std::vector<std::function<void(Host::DisplayUnits&)>> unitChanges_;
   std::vector<std::pair<std::string_view, std::string_view>> properties_;
   bool propagateUndefined_ = false;
   bool json_ = false;

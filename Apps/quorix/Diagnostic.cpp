@@ -3,6 +3,7 @@
 #include "Answer.hpp"
 #include "EP/NormalizedParsingLocaleSettings.hpp"
 #include "Excerpt.hpp"
+#include "Host/NodeSpan.hpp"
 
 namespace Command {
 namespace {
@@ -42,7 +43,7 @@ void AppendRendered(std::string& out, const Evaluation& evaluation, const QX::Ex
   const ReplacedText shown = names.RestoreNames(text.GetFullString());
   PieceFinder finder(settings, &source);
   evaluation.expression.GetRoot()->BuildExpressionString(finder);
-  Place place{shown.FromOriginal(GetSpan(text, source)), {}};
+  Place place{shown.FromOriginal(Host::GetSpan(text, source)), {}};
   for (const auto& piece : finder.GetPieces()) place.core.push_back(shown.FromOriginal(piece));
   AppendExcerpt(out, shown.GetText(), place);
 }

@@ -1,21 +1,11 @@
 #include "Environment.hpp"
 
 namespace Command {
-namespace {
-
-QX::ExpressionUnitConverter MakeConverter(const DisplayUnits& units) {
-  return QX::ExpressionUnitConverter(QX::CalcUnitSettings(QX::LengthFormat(units.length), QX::AreaFormat(units.area),
-                                                          QX::VolumeFormat(units.volume),
-                                                          QX::AngleFormat(units.angle)));
-}
-
-}  // namespace
-
-Environment::Environment(const Settings& settings) : settings_(settings), converter_(MakeConverter(settings.units)) {}
+Environment::Environment(const Settings& settings) : settings_(settings), display_(settings.display, settings.locale) {}
 
 void Environment::SetSettings(const Settings& settings) {
   settings_ = settings;
-  converter_ = MakeConverter(settings.units);
+  display_ = Host::DisplayText(settings.display, settings.locale);
 }
 
 void Environment::Reset(const Settings& settings) {

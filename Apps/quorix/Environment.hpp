@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Host/Display/DisplayText.hpp"
 #include "Quorix/ExpressionEvaluationEnv.hpp"
 #include "Settings.hpp"
 #include "TW/Guid.hpp"
@@ -25,17 +26,19 @@ class Environment final : public QX::IExpressionEvaluationEnv {
   /// The properties that have values.
   const TW::HashTable<TW::Guid, QX::ExpressionValue>& GetValues() const { return values_; }
   const Settings& GetSettings() const { return settings_; }
+  /// What shows values as the settings ask.
+  const Host::DisplayText& GetDisplay() const { return display_; }
 
   QX::EvaluableStatus GetPropertyEvaluableStatus(const TW::Guid& propertyId) const override;
   /// Throws `TW::IllegalReferenceException` for a property without a value.
   QX::ExpressionValue GetPropertyValue(const TW::Guid& propertyId) const override { return values_.Get(propertyId); }
-  const QX::IExpressionUnitConverter& GetUnitConverter() const override { return converter_; }
+  const QX::IExpressionUnitConverter& GetUnitConverter() const override { return display_.GetConverter(); }
   const QX::IEvaluationLocaleSettings& GetLocaleSettings() const override { return settings_.locale; }
   bool IsUserUndefinedPropagationEnabled() const override { return settings_.propagateUndefined; }
 
  private:
   Settings settings_;
-  QX::ExpressionUnitConverter converter_;
+  Host::DisplayText display_;
   TW::HashTable<TW::Guid, QX::ExpressionValue> values_;
   TW::HashTable<TW::Guid, QX::EvaluableStatus> statuses_;
 };

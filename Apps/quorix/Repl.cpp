@@ -1,6 +1,5 @@
 #include "Repl.hpp"
 
-#include "DisplayText.hpp"
 #include "Quorix/ExpressionReferenceFormatUtils.hpp"
 #include "Resources/Language.hpp"
 #include "UndefinedValue.hpp"
@@ -136,7 +135,7 @@ void Repl::ListProperties() {
       out += " = " + session_.GetNames().RestoreNames(text).GetText().ToUtf8();
     }
     const QX::ExpressionValue* value = environment.GetValues().Find(propertyId);
-    out += ": " + (value == nullptr ? "no value" : GetTextForPeople(*value, environment).ToUtf8()) + "\n";
+    out += ": " + (value == nullptr ? "no value" : environment.GetDisplay().Make(*value).ToUtf8()) + "\n";
   });
 }
 

@@ -1,7 +1,7 @@
 #include "Request.hpp"
 
+#include "Host/Display/UnitNames.hpp"
 #include "RequestValue.hpp"
-#include "UnitNames.hpp"
 
 #include <array>
 #include <limits>
@@ -16,7 +16,7 @@ constexpr long long MaximumDenominator = 128;
   throw RequestError("WrongType", std::string("\"") + key + "\" must be " + expected + ".");
 }
 
-long long ReadWholeNumber(const JsonValue& value, long long minimum, long long maximum, const char* key) {
+long long ReadWholeNumber(const Host::JsonValue& value, long long minimum, long long maximum, const char* key) {
   long long number = 0;
   if (!value.GetWholeNumber(minimum, maximum, number)) {
     const std::string limits = std::to_string(minimum) + " to " + std::to_string(maximum);
@@ -40,17 +40,17 @@ struct Separators {
   }
 };
 
-int ReadSeparator(const JsonValue& value, bool mayBeNone, const char* key) {
+int ReadSeparator(const Host::JsonValue& value, bool mayBeNone, const char* key) {
   if (!value.IsText() || value.GetText().size() > 1) RefuseType(key, "one character");
   if (!value.GetText().empty() && value.GetText().front() != 0) return value.GetText().front();
   if (!mayBeNone) RefuseType(key, "one character");
   return 0;
 }
 
-Separators ReadSeparators(const JsonValue& value, const char* key) {
+Separators ReadSeparators(const Host::JsonValue& value, const char* key) {
   if (!value.IsObject()) RefuseType(key, "an object of separators");
   Separators separators;
-  value.ForEachMember([&](std::u16string_view name, const JsonValue& member) {
+  value.ForEachMember([&](std::u16string_view name, const Host::JsonValue& member) {
     if (name == u"decimal") separators.codes[0] = ReadSeparator(member, false, "decimal");
     if (name == u"list") separators.codes[1] = ReadSeparator(member, false, "list");
     if (name == u"thousand") separators.codes[2] = ReadSeparator(member, true, "thousand");
@@ -58,23 +58,23 @@ Separators ReadSeparators(const JsonValue& value, const char* key) {
   return separators;
 }
 
-void SetDenominator(QX::LengthUnitData& data, const JsonValue& value) {
+void SetDenominator(QX::LengthUnitData& data, const Host::JsonValue& value) {
   data.denominator = static_cast<unsigned short>(ReadWholeNumber(value, 1, MaximumDenominator, "denominator"));
 }
 
 // Only lengths have fractions.
 template <class Unit>
-void SetDenominator(QX::UnitData<Unit>&, const JsonValue&) {}
+void SetDenominator(QX::UnitData<Unit>&, const Host::JsonValue&) {}
 
 template <class Data>
-void ReadUnit(const JsonValue& value, const char* kind, Data& data) {
+void ReadUnit(const Host::JsonValue& value, const char* kind, Data& data) {
   if (!value.IsObject()) RefuseType(kind, "an object with a unit");
-  value.ForEachMember([&](std::u16string_view name, const JsonValue& member) {
+  value.ForEachMember([&](std::u16string_view name, const Host::JsonValue& member) {
     if (name == u"unit") {
       if (!member.IsText()) RefuseType("unit", "the name of a unit");
-      if (!FindUnit(member.GetText(), data.unit)) {
-        throw RequestError("UnknownUnit",
-                           std::string("The unit of \"") + kind + "\" must be one of " + GetUnitNames(data.unit) + ".");
+      if (!Host::FindUnit(member.GetText(), data.unit)) {
+        throw RequestError("UnknownUnit", std::string("The unit of \"") + kind + "\" must be one of " +
+                                              Host::GetUnitNames(data.unit) + ".");
       }
     }
     if (name == u"decimals") {
@@ -84,9 +84,9 @@ void ReadUnit(const JsonValue& value, const char* kind, Data& data) {
   });
 }
 
-void ReadUnits(const JsonValue& value, DisplayUnits& units) {
+void ReadUnits(const Host::JsonValue& value, Host::DisplayUnits& units) {
   if (!value.IsObject()) RefuseType("units", "an object of units");
-  value.ForEachMember([&](std::u16string_view name, const JsonValue& member) {
+  value.ForEachMember([&](std::u16string_view name, const Host::JsonValue& member) {
     if (name == u"length") ReadUnit(member, "length", units.length);
     if (name == u"area") ReadUnit(member, "area", units.area);
     if (name == u"volume") ReadUnit(member, "volume", units.volume);
@@ -94,12 +94,12 @@ void ReadUnits(const JsonValue& value, DisplayUnits& units) {
   });
 }
 
-void ReadDecimals(const JsonValue& value, Settings& settings) {
+void ReadDecimals(const Host::JsonValue& value, Settings& settings) {
   constexpr const char* Expected = "two whole numbers, as in [0, 12]";
   if (!value.IsArray()) RefuseType("decimals", Expected);
-  unsigned int* const targets[] = {&settings.minimumDecimals, &settings.maximumDecimals};
+  unsigned int* const targets[] = {&settings.display.minimumDecimals, &settings.display.maximumDecimals};
   std::size_t count = 0;
-  value.ForEachElement([&](const JsonValue& element) {
+  value.ForEachElement([&](const Host::JsonValue& element) {
     if (count == 2) RefuseType("decimals", Expected);
     constexpr long long Limit = std::numeric_limits<unsigned int>::max();
     *targets[count++] = static_cast<unsigned int>(ReadWholeNumber(element, 0, Limit, "decimals"));
@@ -107,13 +107,13 @@ void ReadDecimals(const JsonValue& value, Settings& settings) {
   if (count != 2) RefuseType("decimals", Expected);
 }
 
-void ReadMarkerMode(const JsonValue& value, Settings& settings) {
+void ReadMarkerMode(const Host::JsonValue& value, Settings& settings) {
   using Limits = std::numeric_limits<int>;
-  settings.markerMode =
+  settings.display.markerMode =
       static_cast<TWUnit::UnitMarkerMode>(ReadWholeNumber(value, Limits::min(), Limits::max(), "markerMode"));
 }
 
-void ReadPropagation(const JsonValue& value, Settings& settings) {
+void ReadPropagation(const Host::JsonValue& value, Settings& settings) {
   if (!value.GetBool(settings.propagateUndefined)) RefuseType("propagation", "true or false");
 }
 
@@ -123,11 +123,12 @@ struct RequestSeparators {
   Separators renderLocale;
 };
 
-void ReadSetting(std::u16string_view key, const JsonValue& value, Settings& settings, RequestSeparators& separators) {
+void ReadSetting(std::u16string_view key, const Host::JsonValue& value, Settings& settings,
+                 RequestSeparators& separators) {
   if (key == u"locale") separators.locale = ReadSeparators(value, "locale");
   if (key == u"renderLocale") separators.renderLocale = ReadSeparators(value, "renderLocale");
   if (key == u"propagation") ReadPropagation(value, settings);
-  if (key == u"units") ReadUnits(value, settings.units);
+  if (key == u"units") ReadUnits(value, settings.display.units);
   if (key == u"decimals") ReadDecimals(value, settings);
   if (key == u"markerMode") ReadMarkerMode(value, settings);
 }
@@ -140,9 +141,9 @@ TW::Guid ReadGuid(std::u16string_view text) {
   return guid;
 }
 
-void ReadProperties(const JsonValue& value, Environment& environment) {
+void ReadProperties(const Host::JsonValue& value, Environment& environment) {
   if (!value.IsObject()) RefuseType("properties", "an object of values by GUID");
-  value.ForEachMember([&](std::u16string_view name, const JsonValue& member) {
+  value.ForEachMember([&](std::u16string_view name, const Host::JsonValue& member) {
     const TW::Guid propertyId = ReadGuid(name);
     if (auto propertyValue = ReadPropertyValue(member)) {
       environment.SetValue(propertyId, *std::move(propertyValue));
@@ -152,9 +153,9 @@ void ReadProperties(const JsonValue& value, Environment& environment) {
   });
 }
 
-void ReadStatuses(const JsonValue& value, Environment& environment) {
+void ReadStatuses(const Host::JsonValue& value, Environment& environment) {
   if (!value.IsObject()) RefuseType("status", "an object of numbers by GUID");
-  value.ForEachMember([&](std::u16string_view name, const JsonValue& member) {
+  value.ForEachMember([&](std::u16string_view name, const Host::JsonValue& member) {
     const TW::Guid propertyId = ReadGuid(name);
     environment.SetStatus(propertyId, static_cast<QX::EvaluableStatus>(ReadWholeNumber(member, 0, 2, "status")));
   });
@@ -162,21 +163,22 @@ void ReadStatuses(const JsonValue& value, Environment& environment) {
 
 }  // namespace
 
-std::string_view ReadId(const JsonValue& request) {
+std::string_view ReadId(const Host::JsonValue& request) {
   std::string_view id;
   if (!request.IsObject()) return id;
-  request.ForEachMember([&id](std::u16string_view key, const JsonValue& value) {
+  request.ForEachMember([&id](std::u16string_view key, const Host::JsonValue& value) {
     if (key == u"id") id = value.GetSource();
   });
   return id;
 }
 
-void ReadRequest(const JsonValue& request, const Settings& defaults, TW::UniString& formula, Environment& environment) {
+void ReadRequest(const Host::JsonValue& request, const Settings& defaults, TW::UniString& formula,
+                 Environment& environment) {
   if (!request.IsObject()) throw RequestError("WrongType", "A request must be an object.");
   Settings settings = defaults;
   RequestSeparators separators;
   bool hasFormula = false;
-  request.ForEachMember([&](std::u16string_view key, const JsonValue& value) {
+  request.ForEachMember([&](std::u16string_view key, const Host::JsonValue& value) {
     if (key != u"formula") return ReadSetting(key, value, settings, separators);
     if (!value.IsText()) RefuseType("formula", "a text");
     formula.Clear();
@@ -188,7 +190,7 @@ void ReadRequest(const JsonValue& request, const Settings& defaults, TW::UniStri
   settings.renderLocale = separators.renderLocale.Over(settings.locale);
 
   environment.Reset(settings);
-  request.ForEachMember([&](std::u16string_view key, const JsonValue& value) {
+  request.ForEachMember([&](std::u16string_view key, const Host::JsonValue& value) {
     if (key == u"properties") ReadProperties(value, environment);
     if (key == u"status") ReadStatuses(value, environment);
   });

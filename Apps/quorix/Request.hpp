@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Environment.hpp"
-#include "JsonDocument.hpp"
+#include "Host/Json/JsonDocument.hpp"
 #include "TW/UniString.hpp"
 
 #include <stdexcept>
@@ -23,10 +23,11 @@ class RequestError : public std::runtime_error {
 };
 
 /// The JSON that names a request, as it was written; empty when nothing does.
-std::string_view ReadId(const JsonValue& request);
+std::string_view ReadId(const Host::JsonValue& request);
 
 /// Reads what a request asks for; what it leaves out is as in `defaults`. Throws `RequestError`. Unknown keys have no
 /// bearing, and of equal keys the last one counts.
-void ReadRequest(const JsonValue& request, const Settings& defaults, TW::UniString& formula, Environment& environment);
+void ReadRequest(const Host::JsonValue& request, const Settings& defaults, TW::UniString& formula,
+                 Environment& environment);
 
 }  // namespace Command

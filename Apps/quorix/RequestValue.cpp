@@ -13,8 +13,8 @@ using Undefined = ExpressionValue::UndefinedSelector;
 
 // The members of a value, before its kind says what they must be.
 struct Members {
-  TW::Optional<JsonValue> kind;
-  TW::Optional<JsonValue> value;
+  TW::Optional<Host::JsonValue> kind;
+  TW::Optional<Host::JsonValue> value;
   bool undefined = false;
   int length = 0;
   int angle = 0;
@@ -24,17 +24,17 @@ struct Members {
   throw RequestError("WrongType", std::string("The value of a property ") + reason + ".");
 }
 
-int ReadExponent(const JsonValue& value) {
+int ReadExponent(const Host::JsonValue& value) {
   using Limits = std::numeric_limits<int>;
   long long exponent = 0;
   if (!value.GetWholeNumber(Limits::min(), Limits::max(), exponent)) Refuse("must have whole numbers as exponents");
   return static_cast<int>(exponent);
 }
 
-Members ReadMembers(const JsonValue& value) {
+Members ReadMembers(const Host::JsonValue& value) {
   if (!value.IsObject()) Refuse("must be an object with a kind");
   Members members;
-  value.ForEachMember([&members](std::u16string_view key, const JsonValue& member) {
+  value.ForEachMember([&members](std::u16string_view key, const Host::JsonValue& member) {
     if (key == u"kind") members.kind = member;
     if (key == u"value") members.value = member;
     if (key == u"undefined" && !member.GetBool(members.undefined)) Refuse("must be undefined by true or false");
@@ -78,7 +78,7 @@ ExpressionValue ReadNumber(const Members& members) {
 
 }  // namespace
 
-TW::Optional<ExpressionValue> ReadPropertyValue(const JsonValue& value) {
+TW::Optional<ExpressionValue> ReadPropertyValue(const Host::JsonValue& value) {
   const Members members = ReadMembers(value);
   const std::u16string_view kind = members.kind->GetText();
   if (kind == u"failing") return {};

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "JsonDocument.hpp"
+#include "Host/Json/JsonDocument.hpp"
 #include "Quorix/ExpressionValue.hpp"
 #include "TW/Optional.hpp"
 
 namespace Command {
 
 /// Reads the value of a property in a request; nothing for one that is to fail. Throws `RequestError`.
-TW::Optional<QX::ExpressionValue> ReadPropertyValue(const JsonValue& value);
+TW::Optional<QX::ExpressionValue> ReadPropertyValue(const Host::JsonValue& value);
 
 }  // namespace Command

@@ -2,8 +2,7 @@
 
 #include "Answer.hpp"
 #include "Diagnostic.hpp"
-#include "DisplayText.hpp"
-#include "JsonWriter.hpp"
+#include "Host/Json/JsonWriter.hpp"
 #include "TreePrinter.hpp"
 
 namespace Command {
@@ -27,7 +26,7 @@ Session::Formula Session::Evaluate(std::string_view argument) {
 void Session::Show(const Formula& formula, bool json) {
   if (json) return WriteAnswer(formula);
   if (!formula.HasValue()) return WriteDiagnostic(formula);
-  call_.results.GetBuffer() += GetTextForPeople(formula.evaluation.value, environment_).ToUtf8() + "\n";
+  call_.results.GetBuffer() += environment_.GetDisplay().Make(formula.evaluation.value).ToUtf8() + "\n";
 }
 
 void Session::ShowTree(const Formula& formula, bool json) {
@@ -42,7 +41,7 @@ void Session::ShowTree(const Formula& formula, bool json) {
 }
 
 void Session::WriteAnswer(const Formula& formula) {
-  JsonWriter writer(call_.results.GetBuffer());
+  Host::JsonWriter writer(call_.results.GetBuffer());
   Command::WriteAnswer(writer, {}, formula.evaluation, environment_);
   call_.results.GetBuffer() += '\n';
 }

@@ -1,7 +1,7 @@
 #include "TreePrinter.hpp"
 
 #include "Answer.hpp"
-#include "DisplayText.hpp"
+#include "Host/Json/ValueJson.hpp"
 
 #include <algorithm>
 
@@ -31,7 +31,7 @@ void Align(std::vector<Row>& rows, std::size_t column) {
   for (Row& row : rows) row[column].resize(width + Gap, ' ');
 }
 
-void WritePlace(JsonWriter& writer, const NodeFacts& facts) {
+void WritePlace(Host::JsonWriter& writer, const NodeFacts& facts) {
   writer.WriteKey("begin");
   writer.WriteInteger(facts.range.begin);
   writer.WriteKey("end");
@@ -63,7 +63,7 @@ void TreePrinter::AppendTable(std::string& out, const PropertyNames& names) {
 }
 
 void TreePrinter::AppendJson(std::string& out) const {
-  JsonWriter writer(out);
+  Host::JsonWriter writer(out);
   writer.BeginObject();
   writer.WriteKey("text");
   writer.WriteText(text_.GetFullString());
@@ -88,11 +88,11 @@ std::string TreePrinter::GetValueCell(const NodeFacts& facts) const {
     return name + " at " + Print(shown_.FromOriginal(text_.GetNodeRange(source)));
   }
   if (!facts.value.IsValid()) return "invalid";
-  const TW::UniString text = GetTextForPeople(facts.value, environment_);
+  const TW::UniString text = environment_.GetDisplay().Make(facts.value);
   return text.GetLength() <= LongestValue ? text.ToUtf8() : text.Substring(0, LongestValue).ToUtf8() + "...";
 }
 
-void TreePrinter::WriteNode(JsonWriter& writer, const NodeFacts& facts) const {
+void TreePrinter::WriteNode(Host::JsonWriter& writer, const NodeFacts& facts) const {
   writer.BeginObject();
   writer.WriteKey("class");
   writer.WriteName(facts.node->GetClassInfo()->GetName());
@@ -105,10 +105,10 @@ void TreePrinter::WriteNode(JsonWriter& writer, const NodeFacts& facts) const {
   writer.EndObject();
 }
 
-void TreePrinter::WriteOutcome(JsonWriter& writer, const NodeFacts& facts) const {
+void TreePrinter::WriteOutcome(Host::JsonWriter& writer, const NodeFacts& facts) const {
   if (!facts.failure) {
     writer.WriteKey("value");
-    WriteValue(writer, facts.value);
+    Host::WriteValue(writer, facts.value);
     return WriteDisplay(writer, facts.value, environment_);
   }
   writer.WriteKey("error");

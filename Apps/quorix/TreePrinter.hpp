@@ -2,7 +2,7 @@
 
 #include "Environment.hpp"
 #include "Evaluation.hpp"
-#include "JsonWriter.hpp"
+#include "Host/Json/JsonWriter.hpp"
 #include "NodeList.hpp"
 #include "PropertyNames.hpp"
 #include "Quorix/ExpressionString.hpp"
@@ -26,8 +26,8 @@ class TreePrinter {
  private:
   std::vector<std::string> MakeRow(const NodeFacts& facts) const;
   std::string GetValueCell(const NodeFacts& facts) const;
-  void WriteNode(JsonWriter& writer, const NodeFacts& facts) const;
-  void WriteOutcome(JsonWriter& writer, const NodeFacts& facts) const;
+  void WriteNode(Host::JsonWriter& writer, const NodeFacts& facts) const;
+  void WriteOutcome(Host::JsonWriter& writer, const NodeFacts& facts) const;
 
   const Environment& environment_;
   QX::ExpressionString text_;

@@ -1,7 +1,8 @@
 #include "VocabularyPrinter.hpp"
 
 #include "Answer.hpp"
-#include "JsonWriter.hpp"
+#include "Host/Json/JsonWriter.hpp"
+#include "Host/Json/ValueJson.hpp"
 #include "OptionTable.hpp"
 #include "WordHelp.hpp"
 
@@ -28,17 +29,17 @@ void AppendGroups(std::string& out) {
   }
 }
 
-void WriteField(JsonWriter& writer, std::string_view key, const TW::UniString& text) {
+void WriteField(Host::JsonWriter& writer, std::string_view key, const TW::UniString& text) {
   writer.WriteKey(key);
   writer.WriteText(text);
 }
 
-void WriteKindField(JsonWriter& writer, WordKind kind) {
+void WriteKindField(Host::JsonWriter& writer, WordKind kind) {
   writer.WriteKey("kind");
   writer.WriteName(GetKindName(kind));
 }
 
-void WriteGroup(JsonWriter& writer, const WordGroup& group) {
+void WriteGroup(Host::JsonWriter& writer, const WordGroup& group) {
   writer.BeginObject();
   writer.WriteKey("group");
   writer.WriteName(group.name);
@@ -56,7 +57,7 @@ void WriteGroup(JsonWriter& writer, const WordGroup& group) {
   writer.EndObject();
 }
 
-void WriteArguments(JsonWriter& writer, const WordHelp& help) {
+void WriteArguments(Host::JsonWriter& writer, const WordHelp& help) {
   writer.WriteKey("arguments");
   writer.BeginArray();
   for (const WordArgument& argument : help.arguments) {
@@ -68,14 +69,14 @@ void WriteArguments(JsonWriter& writer, const WordHelp& help) {
   writer.EndArray();
 }
 
-void WriteExamples(JsonWriter& writer, const WordHelp& help, const Environment& environment) {
+void WriteExamples(Host::JsonWriter& writer, const WordHelp& help, const Environment& environment) {
   writer.WriteKey("examples");
   writer.BeginArray();
   for (const WordExample& example : help.examples) {
     writer.BeginObject();
     WriteField(writer, "formula", example.formula);
     writer.WriteKey("value");
-    WriteValue(writer, example.value);
+    Host::WriteValue(writer, example.value);
     WriteDisplay(writer, example.value, environment);
     writer.EndObject();
   }
@@ -83,7 +84,7 @@ void WriteExamples(JsonWriter& writer, const WordHelp& help, const Environment& 
 }
 
 void AppendJson(std::string& out, const WordHelp& help, const Environment& environment) {
-  JsonWriter writer(out);
+  Host::JsonWriter writer(out);
   writer.BeginObject();
   WriteField(writer, "name", help.word);
   WriteKindField(writer, help.kind);
@@ -124,7 +125,7 @@ std::string MakeComplaint(const TW::UniString& word) {
 
 void AppendVocabulary(std::string& out, bool json) {
   if (!json) return AppendGroups(out);
-  JsonWriter writer(out);
+  Host::JsonWriter writer(out);
   writer.BeginObject();
   writer.WriteKey("groups");
   writer.BeginArray();

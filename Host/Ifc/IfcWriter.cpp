@@ -1,17 +1,14 @@
 #include "Host/Ifc/IfcWriter.hpp"
 
+#include "Host/Files/OutputFile.hpp"
 #include "Host/Ifc/IfcAddedSets.hpp"
 #include "Host/Ifc/StepText.hpp"
-#include "TW/FileChannel.hpp"
 
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
-#include <filesystem>
 #include <span>
 #include <string_view>
-#include <system_error>
-#include <unistd.h>
 
 namespace Host {
 namespace {
@@ -150,43 +147,13 @@ class ModelWriter {
   std::uint64_t lastId_ = 0;
 };
 
-TW::ErrCode WriteFile(const IfcModel& model, const std::string& path, const IfcPropertySource& source) {
-  TW::FileOChannel channel(path);
-  if (channel.GetOutputStatus() != TW::NoErr) return channel.GetOutputStatus();
-  const TW::ErrCode written = ModelWriter(model, channel).Write(source);
-  const TW::ErrCode closed = channel.Close();
-  return written != TW::NoErr ? written : closed;
-}
-
-// Takes the file away unless it was given its name.
-class PartFile {
- public:
-  explicit PartFile(const std::string& path) : path_(path + ".part" + std::to_string(getpid())) {}
-  PartFile(const PartFile&) = delete;
-  PartFile& operator=(const PartFile&) = delete;
-  ~PartFile() {
-    std::error_code error;
-    std::filesystem::remove(path_, error);
-  }
-
-  const std::string& GetPath() const { return path_; }
-  TW::ErrCode Rename(const std::string& path) const {
-    std::error_code error;
-    std::filesystem::rename(path_, path, error);
-    return error ? TW::ErrWriteFailed : TW::NoErr;
-  }
-
- private:
-  std::string path_;
-};
-
 }  // namespace
 
 TW::ErrCode WriteIfcModel(const IfcModel& model, const std::string& path, const IfcPropertySource& source) {
   if (model.GetMessages().HasFatal()) return TW::ErrRefused;
-  const PartFile part(path);
-  const TW::ErrCode error = WriteFile(model, part.GetPath(), source);
-  return error == TW::NoErr ? part.Rename(path) : error;
+  OutputFile file(path);
+  const TW::ErrCode error = ModelWriter(model, file.GetChannel()).Write(source);
+  return error == TW::NoErr ? file.Finish() : error;
 }
 
 }  // namespace Host

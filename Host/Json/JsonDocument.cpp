@@ -1,4 +1,4 @@
-#include "JsonDocument.hpp"
+#include "Host/Json/JsonDocument.hpp"
 
 #include "TW/DecimalNumber.hpp"
 
@@ -9,7 +9,7 @@
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
 
-namespace Command {
+namespace Host {
 namespace {
 
 // Texts up to this length leave no more memory behind than is kept on purpose.
@@ -201,4 +201,4 @@ bool JsonValue::GetWholeNumber(long long minimum, long long maximum, long long& 
   return true;
 }
 
-}  // namespace Command
+}  // namespace Host

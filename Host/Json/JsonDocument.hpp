@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace Command {
+namespace Host {
 
 /// A text is no JSON; the message says where and why.
 class JsonError : public std::runtime_error {
@@ -107,4 +107,4 @@ class JsonValue {
   std::uint32_t index_;
 };
 
-}  // namespace Command
+}  // namespace Host

@@ -1,4 +1,4 @@
-#include "DisplayText.hpp"
+#include "Host/Display/DisplayText.hpp"
 
 #include "Quorix/ExpressionValueToString.hpp"
 
@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace Command {
+namespace Host {
 namespace {
 
 TW::UniString ToText(unsigned short unit) { return TW::UniString(TW::UniChar(static_cast<char16_t>(unit))); }
@@ -28,16 +28,15 @@ TW::UniString GetBaseUnitText(const QX::ExpressionValue& value, const TW::UniStr
 
 }  // namespace
 
-TW::Optional<TW::UniString> GetDisplayText(const QX::ExpressionValue& value, const Environment& environment) {
-  const Settings& settings = environment.GetSettings();
-  return QX::ConvertExpressionValueToString(value, environment.GetUnitConverter(), settings.locale, settings.markerMode,
-                                            settings.minimumDecimals, settings.maximumDecimals);
+TW::Optional<TW::UniString> DisplayText::Find(const QX::ExpressionValue& value) const {
+  return QX::ConvertExpressionValueToString(value, converter_, locale_, settings_.markerMode, settings_.minimumDecimals,
+                                            settings_.maximumDecimals);
 }
 
-TW::UniString GetTextForPeople(const QX::ExpressionValue& value, const Environment& environment) {
+TW::UniString DisplayText::Make(const QX::ExpressionValue& value) const {
   if (!value.IsValid()) return {};
-  if (auto text = GetDisplayText(value, environment)) return *std::move(text);
-  return GetBaseUnitText(value, ToText(environment.GetSettings().locale.GetDecimalSeparator()));
+  if (auto text = Find(value)) return *std::move(text);
+  return GetBaseUnitText(value, ToText(locale_.GetDecimalSeparator()));
 }
 
-}  // namespace Command
+}  // namespace Host

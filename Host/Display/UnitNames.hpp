@@ -7,7 +7,7 @@
 
 /// The names of display units in options and requests.
 
-namespace Command {
+namespace Host {
 
 /// Each gives false, and leaves `unit` alone, for a name that is none.
 bool FindUnit(std::u16string_view name, TWUnit::LengthUnit& unit);
@@ -21,4 +21,4 @@ std::string GetUnitNames(TWUnit::AreaUnit);
 std::string GetUnitNames(TWUnit::VolumeUnit);
 std::string GetUnitNames(TWUnit::AngleUnit);
 
-}  // namespace Command
+}  // namespace Host

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace Command {
+namespace Host {
 
 /// Appends JSON to a text, on one line, in UTF-8. It puts the commas; that the rest makes sense is up to the caller.
 class JsonWriter {
@@ -38,4 +38,4 @@ class JsonWriter {
   bool follows_ = false;  ///< whether a comma comes before the next value or key
 };
 
-}  // namespace Command
+}  // namespace Host

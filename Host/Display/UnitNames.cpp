@@ -1,10 +1,10 @@
-#include "UnitNames.hpp"
+#include "Host/Display/UnitNames.hpp"
 
 #include "TW/UniString.hpp"
 
 #include <cstddef>
 
-namespace Command {
+namespace Host {
 namespace {
 
 template <class Unit>
@@ -80,4 +80,4 @@ std::string GetUnitNames(TWUnit::VolumeUnit) { return List(VolumeUnits); }
 
 std::string GetUnitNames(TWUnit::AngleUnit) { return List(AngleUnits); }
 
-}  // namespace Command
+}  // namespace Host

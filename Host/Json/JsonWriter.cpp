@@ -1,10 +1,10 @@
-#include "JsonWriter.hpp"
+#include "Host/Json/JsonWriter.hpp"
 
 #include <charconv>
 #include <cmath>
 #include <cstddef>
 
-namespace Command {
+namespace Host {
 namespace {
 
 bool IsPlain(char16_t unit) { return unit >= 0x20 && unit < 0x80 && unit != u'"' && unit != u'\\'; }
@@ -124,4 +124,4 @@ void JsonWriter::WriteSource(std::string_view json) {
   out_ += json;
 }
 
-}  // namespace Command
+}  // namespace Host
