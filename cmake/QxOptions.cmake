@@ -20,7 +20,8 @@ if(QX_FUZZERS)
   if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
     message(FATAL_ERROR "QX_FUZZERS needs clang: use the preset fuzz")
   endif()
-  target_compile_options(qx_options INTERFACE -fsanitize=fuzzer-no-link)
+  target_compile_options(qx_options INTERFACE
+    -fsanitize=fuzzer-no-link "-fsanitize-ignorelist=${PROJECT_SOURCE_DIR}/Fuzz/ForeignFaults.txt")
   target_link_options(qx_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
