@@ -89,7 +89,8 @@ TEST(Persistence, AFormulaOfAnotherVersionIsPassedOver) {
     EXPECT_EQ(reading.error, TW::NoErr) << version;
     EXPECT_EQ(reading.remaining, 1U) << version;
     EXPECT_EQ(Render(reading.expression), u"42") << version;
-    bytes.resize(bytes.size() - 2);
+    bytes.pop_back();
+    bytes.pop_back();
     EXPECT_EQ(ReadOver(bytes).error, TW::ErrEndOfData) << version;
   }
 }
