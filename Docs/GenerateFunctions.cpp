@@ -48,7 +48,7 @@ void AppendArguments(std::string& page, const WordHelp& help) {
 }
 
 void AppendExamples(std::string& page, const WordHelp& help) {
-  page += "```\n";
+  page += "```text\n";
   for (const WordExample& example : help.examples) {
     page += example.formula.ToUtf8() + " = " + example.result.ToUtf8() + "\n";
   }
