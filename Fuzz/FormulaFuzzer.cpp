@@ -58,17 +58,21 @@ void CheckDisplay(FuzzInput& input, const Expression& expression, const TestHost
   Require(outcome.value.IsValid() || !text, "an invalid value is not shown");
 }
 
-void CheckFormula(FuzzInput& input, const TW::UniString& text) {
-  const bool strange = input.Choose(8) == 7;
-  const EvaluationLocaleSettings& locale = strange ? input.ChooseFrom(StrangeLocales) : input.ChooseFrom(Locales);
-  const Expression expression = ParseFormula(text, locale);
-  const TestHost host = MakeHost(input, locale);
-  CheckRanges(expression, locale);
-  if (strange) {
-    Render(expression, locale);
-  } else {
-    CheckText(expression, locale);
-  }
+// Separators that were chosen, and whether a text written in them can be read again.
+struct Separators {
+  EvaluationLocaleSettings locale;
+  bool areSensible;
+};
+
+Separators ChooseSeparators(FuzzInput& input) {
+  if (input.Choose(8) == 7) return {input.ChooseFrom(StrangeLocales), false};
+  return {input.ChooseFrom(Locales), true};
+}
+
+void CheckFormula(FuzzInput& input, const Expression& expression, const Separators& separators) {
+  const TestHost host = MakeHost(input, separators.locale);
+  CheckRanges(expression, separators.locale);
+  if (separators.areSensible) CheckText(expression, separators.locale);
   CheckText(expression, EP::IOLocaleSettings());
   CheckStoring(expression);
   CheckEvaluation(expression, host);
@@ -80,11 +84,15 @@ void CheckFormula(FuzzInput& input, const TW::UniString& text) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   FuzzInput input(data, size);
+  const Separators separators = ChooseSeparators(input);
   const TW::UniString text = FormulaWords::Replace(input.GetText());
+  Expression expression;
   try {
-    CheckFormula(input, text);
+    expression = ParseFormula(text, separators.locale);
   } catch (const EP::SyntaxErrorException& error) {
     CheckErrorOf(error, text);
+    return 0;
   }
+  CheckFormula(input, expression, separators);
   return 0;
 }
