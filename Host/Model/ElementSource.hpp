@@ -3,6 +3,7 @@
 #include "Host/Files/FileProblems.hpp"
 #include "Host/PropertyDefinition.hpp"
 #include "Host/PropertyKind.hpp"
+#include "Host/Rules/ElementAttribute.hpp"
 #include "Quorix/ExpressionValue.hpp"
 #include "TW/Optional.hpp"
 #include "TW/UniString.hpp"
@@ -11,12 +12,6 @@
 #include <string_view>
 
 namespace Host {
-
-/// What every element of a model has, if perhaps empty.
-enum class ElementAttribute { Class, Name, GlobalId, Type, Storey, Tag };
-
-/// The attribute that a source such as `@class` names, if it names one.
-TW::Optional<ElementAttribute> FindElementAttribute(std::u16string_view name);
 
 /// The elements of a model, and the values that are known of them. Any number of threads may ask.
 class ElementSource {
