@@ -9,7 +9,8 @@ namespace {
 
 Status Run(const Call& call);
 
-const CommandEntry entry("model", "RULES", "Computes the properties of rules for the elements of a building model", Run);
+const CommandEntry entry("model", "RULES", "Computes the properties of rules for the elements of a building model",
+                         Run);
 
 Status Run(const Call& call) {
   CommonOptions common;

@@ -29,8 +29,8 @@ std::string_view GetReason(TW::ErrCode error) {
 
 bool ModelDiagnostics::CheckFile(std::string_view path, const Host::FileProblems& problems) {
   for (const Host::FileProblem& problem : problems.GetList()) {
-    const std::string sentence = GetPlace(path, problem) + ": " + (problem.isFatal ? "error: " : "warning: ") +
-                                 problem.message.ToUtf8() + "\n";
+    const std::string sentence =
+        GetPlace(path, problem) + ": " + (problem.isFatal ? "error: " : "warning: ") + problem.message.ToUtf8() + "\n";
     if (problem.isFatal || !quiet_) Write(sentence);
   }
   const std::size_t more = problems.GetCount() - problems.GetList().size();

@@ -1,5 +1,6 @@
 #include "ModelOutput.hpp"
 
+#include <algorithm>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -17,6 +18,10 @@ Host::TableLimits GetTableLimits() {
 
 std::string Quote(std::string_view name) { return "'" + std::string(name) + "'"; }
 
+std::string CountElements(Host::ElementIndex count) {
+  return count == 1 ? "1 element" : std::to_string(count) + " elements";
+}
+
 template <class Write>
 TW::ErrCode WriteWhole(const std::string& path, Write&& write) {
   Host::OutputFile file(path);
@@ -29,20 +34,33 @@ TW::ErrCode WriteWhole(const std::string& path, Write&& write) {
 Status ModelOutput::Give(bool json) {
   Host::ReportScope scope{input_.GetTable(), input_.GetSource(), input_.GetDisplay(), {}, {}};
   if (!ChooseProperties(scope) || !ChooseElements(scope)) return Status::Unusable;
+  Status status = Explain(scope);
+  const bool drawn = WriteGraphs(scope);
+  const bool isAllAsked = options_.explanations.empty() && options_.graphs.empty();
+  if (isAllAsked || json || options_.IsTableShown() || !options_.outputs.empty()) {
+    status = std::max(status, GiveValues(scope, json));
+  }
+  return drawn ? status : Status::Unusable;
+}
+
+Status ModelOutput::GiveValues(const Host::ReportScope& scope, bool json) const {
   const Host::Summary summary = Host::MakeSummary(scope);
   Host::FailureGroups failures(scope);
   if (json) {
     Host::WriteJsonReport(scope, summary, ToResults());
   } else if (options_.IsTableShown()) {
-    ShowTable(scope, failures);
+    Host::WriteTable(scope, failures, GetTableLimits(), ToResults());
   }
-  // What fails is told even when a file or an explanation cannot be given.
-  const bool explained = Explain(scope);
   const bool written = WriteFiles(scope, summary);
   const Host::ReportSink toDiagnostics = [this](std::string_view piece) { diagnostics_.Write(piece); };
+  // What fails is told even when a file cannot be written.
+  if (summary.failed != 0) diagnostics_.Write("\n");
   Host::WriteFailureList(scope, failures, toDiagnostics);
-  if (!diagnostics_.IsQuiet()) Host::WriteSummary(summary, toDiagnostics);
-  if (!explained || !written) return Status::Unusable;
+  if (!diagnostics_.IsQuiet()) {
+    diagnostics_.Write("\n");
+    Host::WriteSummary(summary, toDiagnostics);
+  }
+  if (!written) return Status::Unusable;
   return summary.failed == 0 ? Status::Success : Status::FormulaFailed;
 }
 
@@ -78,12 +96,12 @@ bool ModelOutput::ChooseElements(Host::ReportScope& scope) const {
   }
   Host::FilteredElements filtered = Host::FilterElements(scope.table, condition, locale);
   if (filtered.firstFailure) {
-    diagnostics_.Warning("The condition of --where has no value for " + std::to_string(filtered.failedCount) +
-                         " elements, which are left out. " + filtered.firstFailure->message.ToUtf8());
+    diagnostics_.Warning("The condition of --where has no value for " + CountElements(filtered.failedCount) +
+                         ", left out here. " + filtered.firstFailure->message.ToUtf8());
   }
   if (filtered.undefinedCount != 0) {
-    diagnostics_.Warning("The condition of --where is undefined for " + std::to_string(filtered.undefinedCount) +
-                         " elements, which are left out.");
+    diagnostics_.Warning("The condition of --where is undefined for " + CountElements(filtered.undefinedCount) +
+                         ", left out here.");
   }
   scope.elements = std::move(filtered.kept);
   return true;
@@ -92,7 +110,6 @@ bool ModelOutput::ChooseElements(Host::ReportScope& scope) const {
 bool ModelOutput::WriteFiles(const Host::ReportScope& scope, const Host::Summary& summary) const {
   bool written = true;
   for (const std::string& path : options_.outputs) written = WriteFile(scope, summary, path) && written;
-  for (const std::string& path : options_.graphs) written = WriteGraph(scope, path) && written;
   return written;
 }
 
@@ -109,38 +126,41 @@ bool ModelOutput::WriteFile(const Host::ReportScope& scope, const Host::Summary&
   return diagnostics_.CheckWritten(path, error);
 }
 
-bool ModelOutput::WriteGraph(const Host::ReportScope& scope, const std::string& path) const {
-  const auto write = HasEnding(path, ".svg") ? &Host::WriteSvgGraph : &Host::WriteDotGraph;
-  return diagnostics_.CheckWritten(path, WriteWhole(path, [&](const Host::ReportSink& sink) { write(scope, sink); }));
+bool ModelOutput::WriteGraphs(const Host::ReportScope& scope) const {
+  bool written = true;
+  for (const std::string& path : options_.graphs) {
+    const auto write = HasEnding(path, ".svg") ? &Host::WriteSvgGraph : &Host::WriteDotGraph;
+    const TW::ErrCode error = WriteWhole(path, [&](const Host::ReportSink& sink) { write(scope, sink); });
+    written = diagnostics_.CheckWritten(path, error) && written;
+  }
+  return written;
 }
 
-bool ModelOutput::Explain(const Host::ReportScope& scope) const {
-  bool explained = true;
+Status ModelOutput::Explain(const Host::ReportScope& scope) const {
+  Status status = Status::Success;
   for (const auto& [element, name] : options_.explanations) {
     const auto property = input_.FindProperty(name);
-    explained = property && Explain(scope, element, *property) && explained;
+    status = std::max(status, property ? Explain(scope, element, *property) : Status::Unusable);
   }
-  return explained;
+  return status;
 }
 
-bool ModelOutput::Explain(const Host::ReportScope& scope, std::string_view elementText,
-                          Host::PropertyIndex property) const {
+Status ModelOutput::Explain(const Host::ReportScope& scope, std::string_view elementText,
+                            Host::PropertyIndex property) const {
   const auto elements = Host::FindElements(scope.source, TW::UniString::FromUtf8(elementText).GetView());
   if (elements.empty()) {
     diagnostics_.Error("There is no element " + Quote(elementText) + ". Give its GlobalId, name or tag.");
-    return false;
+    return Status::Unusable;
   }
   const auto origin = [this](Host::PropertyIndex input, Host::ElementIndex element) {
     return input_.GetOrigin(input, element);
   };
+  Status status = Status::Success;
   for (const Host::ElementIndex element : elements) {
     Host::WriteCellReport(scope, property, element, origin, ToResults());
+    if (scope.table.GetStatus(property, element) == Host::CellStatus::Failed) status = Status::FormulaFailed;
   }
-  return true;
-}
-
-void ModelOutput::ShowTable(const Host::ReportScope& scope, Host::FailureGroups& failures) const {
-  Host::WriteTable(scope, failures, GetTableLimits(), ToResults());
+  return status;
 }
 
 Host::ReportSink ModelOutput::ToResults() const {

@@ -20,14 +20,15 @@ class ModelOutput {
   Status Give(bool json);
 
  private:
+  /// Gives the values, tells why cells have none, and sums up.
+  Status GiveValues(const Host::ReportScope& scope, bool json) const;
   bool ChooseProperties(Host::ReportScope& scope) const;
   bool ChooseElements(Host::ReportScope& scope) const;
   bool WriteFiles(const Host::ReportScope& scope, const Host::Summary& summary) const;
   bool WriteFile(const Host::ReportScope& scope, const Host::Summary& summary, const std::string& path) const;
-  bool WriteGraph(const Host::ReportScope& scope, const std::string& path) const;
-  bool Explain(const Host::ReportScope& scope) const;
-  bool Explain(const Host::ReportScope& scope, std::string_view elementText, Host::PropertyIndex property) const;
-  void ShowTable(const Host::ReportScope& scope, Host::FailureGroups& failures) const;
+  bool WriteGraphs(const Host::ReportScope& scope) const;
+  Status Explain(const Host::ReportScope& scope) const;
+  Status Explain(const Host::ReportScope& scope, std::string_view elementText, Host::PropertyIndex property) const;
   Host::ReportSink ToResults() const;
 
   const ModelInput& input_;
