@@ -25,7 +25,7 @@ ErrCode OutputFrame::Close() {
   return channel.CloseFrame(lengthPosition_);
 }
 
-InputFrame::InputFrame(IChannel& channel, const ClassInfo& info) : channel_(channel), outerLimit_(channel.limit_) {
+InputFrame::InputFrame(IChannel& channel, const ClassInfo& info) : channel_(&channel), outerLimit_(channel.limit_) {
   Guid guid;
   std::uint16_t version = 0;
   std::uint32_t length = 0;
@@ -43,12 +43,20 @@ InputFrame::InputFrame(IChannel& channel, const ClassInfo& info) : channel_(chan
 }
 
 InputFrame::~InputFrame() {
+  if (channel_ != nullptr) Close();
+}
+
+ErrCode InputFrame::Close() {
+  if (channel_ == nullptr) return ErrClosed;
+  IChannel& channel = *channel_;
+  channel_ = nullptr;
   try {
-    if (channel_.GetInputStatus() == NoErr) channel_.Skip(channel_.limit_ - channel_.position_);
+    if (channel.GetInputStatus() == NoErr) channel.Skip(channel.limit_ - channel.position_);
   } catch (...) {
-    channel_.SetStatus(ErrReadFailed);
+    channel.SetStatus(ErrReadFailed);
   }
-  channel_.limit_ = outerLimit_;
+  channel.limit_ = outerLimit_;
+  return channel.GetInputStatus();
 }
 
 }  // namespace TW

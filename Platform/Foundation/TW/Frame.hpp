@@ -36,8 +36,9 @@ class TW_EXPORT OutputFrame {
 };
 
 /// A frame being read. A frame of another class puts the channel into the state `ErrFrameClass`, one that claims more
-/// than the frame around it holds into `ErrFrameBounds`; after that, reading gives that code. When the object ends,
-/// what was not read of the frame is passed over; a channel that throws then comes into the state `ErrReadFailed`.
+/// than the frame around it holds into `ErrFrameBounds`; after that, reading gives that code. The frame ends
+/// with `Close` or with the object; what was not read of it is passed over, and a channel that throws then comes into
+/// the state `ErrReadFailed`.
 class TW_EXPORT InputFrame {
  public:
   InputFrame(IChannel& channel, const ClassInfo& info);
@@ -47,9 +48,11 @@ class TW_EXPORT InputFrame {
 
   /// The version that the stream says; 0 when the frame could not be read.
   unsigned short GetVersion() const { return version_; }
+  /// Ends the frame and gives the channel's status, which tells whether the whole frame was there.
+  ErrCode Close();
 
  private:
-  IChannel& channel_;
+  IChannel* channel_;
   std::uint64_t outerLimit_;
   unsigned short version_ = 0;
 };
