@@ -71,6 +71,12 @@ void JsonWriter::WriteKey(std::string_view key) {
   follows_ = false;
 }
 
+void JsonWriter::WriteKey(std::u16string_view key) {
+  WriteText(key);
+  out_ += ": ";
+  follows_ = false;
+}
+
 void JsonWriter::WriteName(std::string_view name) {
   Separate();
   out_ += '"';
@@ -108,6 +114,11 @@ void JsonWriter::WriteInteger(long long value) {
 void JsonWriter::WriteSource(std::string_view json) {
   Separate();
   out_ += json;
+}
+
+void JsonWriter::BreakLine() {
+  out_ += follows_ ? ",\n" : "\n";
+  follows_ = false;
 }
 
 }  // namespace Host

@@ -1,6 +1,7 @@
 #include "Host/Model/ModelTable.hpp"
 
 #include "Host/Model/ClassPattern.hpp"
+#include "Host/Model/InputReader.hpp"
 
 #include <string>
 #include <unordered_map>
@@ -8,47 +9,6 @@
 
 namespace Host {
 namespace {
-
-// Reads the values of one input from the first of its sources that an element has.
-class InputReader {
- public:
-  InputReader(const PropertyRule& rule, const ElementSource& elements) : elements_(elements), kind_(*rule.kind) {
-    for (const TW::UniString& name : rule.sources) AddSource(name.GetView());
-  }
-
-  TW::Optional<QX::ExpressionValue> Read(ElementIndex element) const {
-    for (const Source& source : sources_) {
-      if (auto value = ReadFrom(source, element)) return value;
-    }
-    return std::nullopt;
-  }
-
- private:
-  struct Source {
-    TW::Optional<ElementAttribute> attribute;
-    ElementSource::SourceIndex index = 0;
-  };
-
-  void AddSource(std::u16string_view name) {
-    if (const auto attribute = FindElementAttribute(name)) {
-      sources_.push_back({attribute, 0});
-    } else if (const auto index = elements_.FindSource(name)) {
-      sources_.push_back({std::nullopt, *index});
-    }
-  }
-
-  TW::Optional<QX::ExpressionValue> ReadFrom(const Source& source, ElementIndex element) const {
-    if (!source.attribute) return elements_.Read(element, source.index, kind_);
-    TW::UniString text = elements_.GetAttribute(element, *source.attribute);
-    if (text.IsEmpty()) return std::nullopt;
-    QX::ExpressionValue value = QX::ExpressionValue::FromString(std::move(text));
-    return FitToKind(value, kind_) ? std::move(value) : QX::ExpressionValue::CreateInvalid();
-  }
-
-  const ElementSource& elements_;
-  PropertyKind kind_;
-  std::vector<Source> sources_;
-};
 
 // Elements are of few classes, so each pattern is looked at once for each class.
 class Classes {
