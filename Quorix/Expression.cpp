@@ -122,22 +122,26 @@ TW::ErrCode Expression::WriteVersion1(TW::OChannel& channel) const {
 }
 
 TW::ErrCode Expression::Read(TW::IChannel& channel) {
-  const TW::InputFrame frame(channel, classInfo);
-  if (channel.GetInputStatus() != TW::NoErr) return channel.GetInputStatus();
-  return frame.GetVersion() == StoredVersion ? ReadVersion1(channel) : TW::NoErr;
+  TW::Ref<ExpressionNode> root = root_;
+  TW::InputFrame frame(channel, classInfo);
+  if (frame.GetVersion() == StoredVersion) {
+    if (const TW::ErrCode error = ReadVersion1(channel, root); error != TW::NoErr) return error;
+  }
+  // The formula is only taken when the rest of its frame is there too.
+  const TW::ErrCode error = frame.Close();
+  if (error == TW::NoErr) root_ = std::move(root);
+  return error;
 }
 
-TW::ErrCode Expression::ReadVersion1(TW::IChannel& channel) {
+TW::ErrCode Expression::ReadVersion1(TW::IChannel& channel, TW::Ref<ExpressionNode>& root) {
   bool hasRoot = false;
   if (const TW::ErrCode error = channel.ReadBool(hasRoot); error != TW::NoErr) return error;
-  TW::Ref<ExpressionNode> root;
+  TW::Ref<TW::TreeNode> tree;
   if (hasRoot) {
-    TW::Ref<TW::TreeNode> tree;
     const TW::ErrCode error = TW::TreeNode::ReadDynamic(channel, tree, EP::MaximumNestingDepth);
     if (error != TW::NoErr) return error;
-    root = tree.CheckedCast<ExpressionNode>();
   }
-  root_ = std::move(root);
+  root = tree.CheckedCast<ExpressionNode>();
   return TW::NoErr;
 }
 

@@ -56,7 +56,8 @@ class QX_EXPORT Expression : public TW::Object {
   /// Whether every node was available in that version of the language; true without a tree.
   bool IsValidInVersion(const VersionNumber& version) const;
 
-  /// The text in the given separators, with the range of every node.
+  /// The text in the given separators, with the range of every node. Throws `ExpressionInvalidArgumentNumber` where an
+  /// operator lacks operands, which only a stored formula can.
   ExpressionString GetExpressionString(const EP::IParsingLocaleSettings& settings) const;
 
   /// These three throw `TW::NullReferenceException` when there is no tree.
@@ -78,7 +79,7 @@ class QX_EXPORT Expression : public TW::Object {
   static Expression CreateFromIOString(const TW::UniString& text);
 
  private:
-  TW::ErrCode ReadVersion1(TW::IChannel& channel);
+  static TW::ErrCode ReadVersion1(TW::IChannel& channel, TW::Ref<ExpressionNode>& root);
   TW::ErrCode WriteVersion1(TW::OChannel& channel) const;
 
   TW::Ref<ExpressionNode> root_;

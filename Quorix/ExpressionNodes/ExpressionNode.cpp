@@ -62,10 +62,8 @@ TW::ErrCode ExpressionNode::WriteEmptyFrame(TW::OChannel& channel) const {
 }
 
 TW::ErrCode ExpressionNode::ReadEmptyFrame(TW::IChannel& channel) {
-  {
-    const TW::InputFrame frame(channel, *GetClassInfo());
-  }
-  return channel.GetInputStatus();
+  TW::InputFrame frame(channel, *GetClassInfo());
+  return frame.Close();
 }
 
 }  // namespace QX

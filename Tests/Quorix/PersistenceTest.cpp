@@ -89,6 +89,9 @@ TEST(Persistence, AFormulaOfAnotherVersionIsPassedOver) {
     EXPECT_EQ(reading.error, TW::NoErr) << version;
     EXPECT_EQ(reading.remaining, 1U) << version;
     EXPECT_EQ(Render(reading.expression), u"42") << version;
+    bytes.pop_back();
+    bytes.pop_back();
+    EXPECT_EQ(ReadOver(bytes).error, TW::ErrEndOfData) << version;
   }
 }
 
@@ -137,6 +140,11 @@ TEST(Persistence, WhatALaterVersionAddsIsPassedOver) {
   EXPECT_EQ(reading.error, TW::NoErr);
   EXPECT_EQ(reading.remaining, 0U);
   EXPECT_EQ(Render(reading.expression), u"5");
+  // It must be there.
+  bytes.pop_back();
+  const Reading cut = ReadOver(bytes);
+  EXPECT_EQ(cut.error, TW::ErrEndOfData);
+  EXPECT_EQ(Render(cut.expression), u"42");
 }
 
 // A registered class of trees that has nothing to do with formulas.

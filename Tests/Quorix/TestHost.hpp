@@ -5,7 +5,9 @@
 #include "TW/HashTable.hpp"
 #include "TW/UniString.hpp"
 
+#include <charconv>
 #include <cstddef>
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -160,7 +162,10 @@ class FormulaWords {
 
   static TW::UniString Meaning(std::string_view name) {
     if (const Word* word = Find(name)) return TW::UniString(u"[Property:") + word->id.ToUniString() + u"]";
-    if (!name.starts_with("U+")) return {};
-    return TW::UniString(TW::UniChar(static_cast<char16_t>(std::stoul(std::string(name.substr(2)), nullptr, 16))));
+    std::uint16_t code = 0;
+    if (!name.starts_with("U+") ||
+        std::from_chars(name.data() + 2, name.data() + name.size(), code, 16).ptr != name.data() + name.size())
+      return {};
+    return TW::UniString(TW::UniChar(code));
   }
 };

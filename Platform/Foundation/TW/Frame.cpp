@@ -9,6 +9,8 @@ OutputFrame::OutputFrame(OChannel& channel, const ClassInfo& info) : channel_(&c
 OutputFrame::~OutputFrame() {
   if (channel_ == nullptr) return;
   OChannel& channel = *channel_;
+  // What an exception has cut short is no frame.
+  if (std::uncaught_exceptions() > exceptions_) channel.SetStatus(ErrWriteFailed);
   try {
     Close();
   } catch (...) {
@@ -23,7 +25,7 @@ ErrCode OutputFrame::Close() {
   return channel.CloseFrame(lengthPosition_);
 }
 
-InputFrame::InputFrame(IChannel& channel, const ClassInfo& info) : channel_(channel), outerLimit_(channel.limit_) {
+InputFrame::InputFrame(IChannel& channel, const ClassInfo& info) : channel_(&channel), outerLimit_(channel.limit_) {
   Guid guid;
   std::uint16_t version = 0;
   std::uint32_t length = 0;
@@ -41,8 +43,20 @@ InputFrame::InputFrame(IChannel& channel, const ClassInfo& info) : channel_(chan
 }
 
 InputFrame::~InputFrame() {
-  if (channel_.GetInputStatus() == NoErr) channel_.Skip(channel_.limit_ - channel_.position_);
-  channel_.limit_ = outerLimit_;
+  if (channel_ != nullptr) Close();
+}
+
+ErrCode InputFrame::Close() {
+  if (channel_ == nullptr) return ErrClosed;
+  IChannel& channel = *channel_;
+  channel_ = nullptr;
+  try {
+    if (channel.GetInputStatus() == NoErr) channel.Skip(channel.limit_ - channel.position_);
+  } catch (...) {
+    channel.SetStatus(ErrReadFailed);
+  }
+  channel.limit_ = outerLimit_;
+  return channel.GetInputStatus();
 }
 
 }  // namespace TW

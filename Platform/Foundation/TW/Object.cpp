@@ -48,8 +48,8 @@ Ref<Object> Object::Clone() const {
 }
 
 ErrCode Object::Read(IChannel& channel) {
-  const InputFrame frame(channel, *GetClassInfo());
-  return channel.GetInputStatus();
+  InputFrame frame(channel, *GetClassInfo());
+  return frame.Close();
 }
 
 ErrCode Object::Write(OChannel& channel) const {
