@@ -48,7 +48,7 @@ void AppendArguments(std::string& page, const WordHelp& help) {
 }
 
 void AppendExamples(std::string& page, const WordHelp& help) {
-  page += "```\n";
+  page += "```text\n";
   for (const WordExample& example : help.examples) {
     page += example.formula.ToUtf8() + " = " + example.result.ToUtf8() + "\n";
   }
@@ -85,9 +85,9 @@ std::string MakePage() {
   Resources::SetLanguage("root");
   Settings settings;
   settings.display.units = {{TWUnit::LengthUnit::Meter, 4, 64},
-                    {TWUnit::AreaUnit::SquareMeter, 8},
-                    {TWUnit::VolumeUnit::CubicMeter, 8},
-                    {TWUnit::AngleUnit::DecimalDegree, 4}};
+                            {TWUnit::AreaUnit::SquareMeter, 8},
+                            {TWUnit::VolumeUnit::CubicMeter, 8},
+                            {TWUnit::AngleUnit::DecimalDegree, 4}};
   const Environment environment(Settings{});
   const Environment precise(settings);
   std::string page = Introduction;

@@ -3,7 +3,6 @@
 #include "Host/Room.hpp"
 
 #include <bit>
-#include <cmath>
 
 namespace Host {
 
@@ -12,15 +11,6 @@ using QX::ExpressionValue;
 namespace {
 
 constexpr ExpressionValue::UndefinedSelector Undefined;
-
-bool IsInteger(const ExpressionValue& value) {
-  if (!value.IsNonUnitNumericValue()) return false;
-  const double number = value.GetIntOrNumVariantValue();
-  // The question costs an allocation, and hardly any number of a formula without declared kind is whole.
-  if (!value.IsUserUndefined() && number != std::floor(number)) return false;
-  const std::unique_ptr<TW::DynamicValue> variant = value.CloneContainedVariant();
-  return variant != nullptr && variant->GetKind() == TW::DynamicValue::Kind::Integer;
-}
 
 }  // namespace
 

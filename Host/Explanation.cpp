@@ -25,20 +25,20 @@ TW::Optional<PropertyIndex> FindUndefinedPrecedent(const PropertyTable& table, P
   return std::nullopt;
 }
 
-TW::Optional<PropertyIndex> FindCulprit(const PropertyTable& table, PropertyIndex property, ElementIndex element) {
+}  // namespace
+
+TW::Optional<PropertyIndex> FindCause(const PropertyTable& table, PropertyIndex property, ElementIndex element) {
   if (const Failure* failure = table.FindFailure(property, element)) return FindFailingPrecedent(table, *failure);
   const bool isUndefined = table.GetStatus(property, element) == CellStatus::Undefined;
   return isUndefined ? FindUndefinedPrecedent(table, property, element) : std::nullopt;
 }
-
-}  // namespace
 
 std::vector<PropertyIndex> ExplainCell(const PropertyTable& table, PropertyIndex property, ElementIndex element) {
   std::vector<PropertyIndex> way;
   const bool isInTable = property < table.GetCatalog().GetCount() && element < table.GetElementCount();
   if (!isInTable || table.GetStatus(property, element) == CellStatus::Defined) return way;
   way.push_back(property);
-  while (const TW::Optional<PropertyIndex> culprit = FindCulprit(table, way.back(), element)) way.push_back(*culprit);
+  while (const TW::Optional<PropertyIndex> culprit = FindCause(table, way.back(), element)) way.push_back(*culprit);
   return way;
 }
 

@@ -14,4 +14,7 @@ class PropertyTable;
 /// followed.
 std::vector<PropertyIndex> ExplainCell(const PropertyTable& table, PropertyIndex property, ElementIndex element);
 
+/// The first step of that way: the property that a cell has its trouble from, or nothing.
+TW::Optional<PropertyIndex> FindCause(const PropertyTable& table, PropertyIndex property, ElementIndex element);
+
 }  // namespace Host

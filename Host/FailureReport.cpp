@@ -43,20 +43,20 @@ ExceptionTexts FindExceptionTexts(short resourceIndex) {
                    QX::ExpressionPropertyEvaluationFailed>(resourceIndex);
 }
 
-TW::UniString MakeMessage(const Failure& failure, const PropertyDefinition& definition, bool hasFormula) {
+TW::UniString MakeMessage(const Failure& failure, TW::Optional<PropertyKind> kind, bool hasFormula) {
   if (failure.kind == FailureKind::Evaluation) return FindExceptionTexts(failure.resourceIndex).message;
   if (failure.kind == FailureKind::InvalidResult) return MakeText(TableText::ResultTooLarge);
-  const TW::UniString kind = definition.kind ? MakeKindText(*definition.kind) : TW::UniString();
-  return MakeText(hasFormula ? TableText::WrongResult : TableText::WrongInput, kind);
+  const TableText text = hasFormula ? TableText::WrongResult : TableText::WrongInput;
+  return MakeText(text, kind ? MakeKindText(*kind) : TW::UniString());
 }
 
 }  // namespace
 
-FailureReport ReportFailure(const Failure& failure, const QX::Expression& expression, PropertyIndex property,
+FailureReport ReportFailure(const Failure& failure, const QX::Expression& expression, TW::Optional<PropertyKind> kind,
                             const PropertyCatalog& catalog, const EP::IParsingLocaleSettings& settings) {
   FailureReport report{failure.kind, {}, failure.resourceIndex, {}, {}, {}, {}};
   report.name = GetFailureName(failure);
-  report.message = MakeMessage(failure, catalog.Get(property), expression.IsValid());
+  report.message = MakeMessage(failure, kind, expression.IsValid());
   if (!expression.IsValid()) return report;
   const QX::ExpressionString text = RenderWithNames(*expression.GetRoot(), settings, catalog);
   report.formula = text.GetFullString();

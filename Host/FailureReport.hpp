@@ -9,8 +9,8 @@
 
 namespace Host {
 
-/// Why a formula or an input has no value for an element, as people are told. Ranges count the 16-bit units of the formula's text
-/// with names.
+/// Why a formula or an input has no value for an element, as people are told. Ranges count the 16-bit units of the
+/// formula's text with names.
 struct FailureReport {
   FailureKind kind = FailureKind::Evaluation;
   TW::UniString name;       ///< the name of the exception's class; `InvalidResult` or `WrongKind` for the other kinds
@@ -21,9 +21,9 @@ struct FailureReport {
   TW::Range<unsigned int> span;   ///< of the node at fault and everything below it
 };
 
-/// Tells about the failure of a cell of `property`, whose formula is `expression`. The text of the formula is written
-/// in the separators of `settings`.
-FailureReport ReportFailure(const Failure& failure, const QX::Expression& expression, PropertyIndex property,
+/// Tells about the failure of `expression`, which an input has not, where a value of `kind` was expected, if any. The
+/// text of the formula is written in the separators of `settings`.
+FailureReport ReportFailure(const Failure& failure, const QX::Expression& expression, TW::Optional<PropertyKind> kind,
                             const PropertyCatalog& catalog, const EP::IParsingLocaleSettings& settings);
 
 /// The name alone, as in the report.

@@ -22,11 +22,7 @@ FormulaError MakeError(const EP::SyntaxErrorException& error, TextRange range, s
   }
   const TW::UniString name(typed.substr(range.begin, range.GetLength()));
   if (meanings.empty()) {
-    return {FormulaErrorKind::UnknownName,
-            range,
-            MakeText(TableText::UnknownName, name),
-            std::nullopt,
-            {}};
+    return {FormulaErrorKind::UnknownName, range, MakeText(TableText::UnknownName, name), std::nullopt, {}};
   }
   return {FormulaErrorKind::AmbiguousName,
           range,

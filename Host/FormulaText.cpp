@@ -24,25 +24,56 @@ bool BeginsReference(std::u16string_view text, const EP::Token& token) {
   return text[token.range.begin] == EP::ReferenceStart.front() && token.kind != EP::TokenKind::ListSeparator;
 }
 
-class NamingRenderer final : public QX::IExpressionStringBuilder {
+// Puts names in the place of references.
+class NamingBuilder : public QX::IExpressionStringBuilder {
  public:
-  NamingRenderer(const EP::IParsingLocaleSettings& settings, const PropertyCatalog& catalog)
+  NamingBuilder(const EP::IParsingLocaleSettings& settings, const PropertyCatalog& catalog)
       : settings_(settings), catalog_(catalog) {}
 
-  const EP::IParsingLocaleSettings& GetLocaleSettings() const override { return settings_; }
-  void AppendString(const TW::UniString& text, const QX::ExpressionNode* node) override {
+  const EP::IParsingLocaleSettings& GetLocaleSettings() const final { return settings_; }
+  void AppendString(const TW::UniString& text, const QX::ExpressionNode* node) final {
     TW::Guid id;
     const bool isReference =
         text.GetView().starts_with(EP::ReferenceStart) && QX::IsWellFormedExpressionPropertyReference(text, &id);
     const PropertyIndex* property = isReference ? catalog_.FindById(id) : nullptr;
-    string_.Append(property != nullptr ? catalog_.MakeReference(*property) : text, node);
+    Append(property != nullptr ? catalog_.MakeReference(*property) : text, node);
   }
+
+ private:
+  virtual void Append(const TW::UniString& text, const QX::ExpressionNode* node) = 0;
+
+  EP::NormalizedParsingLocaleSettings settings_;
+  const PropertyCatalog& catalog_;
+};
+
+class NamingRenderer final : public NamingBuilder {
+ public:
+  using NamingBuilder::NamingBuilder;
   QX::ExpressionString TakeString() { return std::move(string_); }
 
  private:
-  EP::NormalizedParsingLocaleSettings settings_;
-  const PropertyCatalog& catalog_;
+  void Append(const TW::UniString& text, const QX::ExpressionNode* node) override { string_.Append(text, node); }
+
   QX::ExpressionString string_;
+};
+
+class PieceFinder final : public NamingBuilder {
+ public:
+  PieceFinder(const EP::IParsingLocaleSettings& settings, const PropertyCatalog& catalog,
+              const QX::ExpressionNode& wanted)
+      : NamingBuilder(settings, catalog), wanted_(wanted) {}
+  std::vector<TW::Range<unsigned int>> TakePieces() { return std::move(pieces_); }
+
+ private:
+  void Append(const TW::UniString& text, const QX::ExpressionNode* node) override {
+    const unsigned int end = length_ + text.GetLength();
+    if (node == &wanted_) pieces_.push_back({length_, end});
+    length_ = end;
+  }
+
+  const QX::ExpressionNode& wanted_;
+  unsigned int length_ = 0;
+  std::vector<TW::Range<unsigned int>> pieces_;
 };
 
 }  // namespace
@@ -85,6 +116,14 @@ QX::ExpressionString RenderWithNames(const QX::ExpressionNode& root, const EP::I
   NamingRenderer renderer(settings, catalog);
   root.BuildExpressionString(renderer);
   return renderer.TakeString();
+}
+
+std::vector<TW::Range<unsigned int>> FindPieces(const QX::ExpressionNode& root, const QX::ExpressionNode& node,
+                                                const EP::IParsingLocaleSettings& settings,
+                                                const PropertyCatalog& catalog) {
+  PieceFinder finder(settings, catalog, node);
+  root.BuildExpressionString(finder);
+  return finder.TakePieces();
 }
 
 }  // namespace Host

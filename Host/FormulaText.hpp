@@ -38,4 +38,9 @@ class ReferenceText {
 QX::ExpressionString RenderWithNames(const QX::ExpressionNode& root, const EP::IParsingLocaleSettings& settings,
                                      const PropertyCatalog& catalog);
 
+/// Where the pieces stand that one node itself puts into that text, in order.
+std::vector<TW::Range<unsigned int>> FindPieces(const QX::ExpressionNode& root, const QX::ExpressionNode& node,
+                                                const EP::IParsingLocaleSettings& settings,
+                                                const PropertyCatalog& catalog);
+
 }  // namespace Host

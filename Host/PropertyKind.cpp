@@ -11,6 +11,8 @@ namespace {
 using QX::ExpressionValue;
 
 constexpr ExpressionValue::UndefinedSelector Undefined;
+constexpr PropertyKind QuantityKinds[] = {PropertyKind::Number, PropertyKind::Length, PropertyKind::Area,
+                                          PropertyKind::Volume, PropertyKind::Angle};
 constexpr std::u16string_view KindNames[] = {u"number", u"integer", u"length", u"area",
                                              u"volume", u"angle",   u"text",   u"logical"};
 
@@ -75,6 +77,26 @@ bool FitToKind(ExpressionValue& value, PropertyKind kind) {
     default:
       return FitToQuantity(value, GetDimension(kind));
   }
+}
+
+bool IsInteger(const ExpressionValue& value) {
+  if (!value.IsNonUnitNumericValue()) return false;
+  const double number = value.GetIntOrNumVariantValue();
+  // The question costs an allocation, and hardly any number of a formula without declared kind is whole.
+  if (!value.IsUserUndefined() && number != std::floor(number)) return false;
+  const std::unique_ptr<TW::DynamicValue> variant = value.CloneContainedVariant();
+  return variant != nullptr && variant->GetKind() == TW::DynamicValue::Kind::Integer;
+}
+
+TW::Optional<PropertyKind> FindKindOf(const ExpressionValue& value) {
+  if (value.IsString()) return PropertyKind::Text;
+  if (value.IsBool()) return PropertyKind::Logical;
+  if (!value.CanConvertToQuantity()) return std::nullopt;
+  if (IsInteger(value)) return PropertyKind::Integer;
+  for (const PropertyKind kind : QuantityKinds) {
+    if (GetDimension(kind) == value.GetUnitExponents()) return kind;
+  }
+  return std::nullopt;
 }
 
 std::u16string_view GetKindName(PropertyKind kind) { return KindNames[static_cast<unsigned int>(kind)]; }

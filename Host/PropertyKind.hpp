@@ -20,6 +20,13 @@ QX::ExpressionValue MakeUndefinedValue(PropertyKind kind);
 /// and an integer is a number; `value` then becomes one of the kind.
 bool FitToKind(QX::ExpressionValue& value, PropertyKind kind);
 
+/// Whether `value` is an integer, and no number that happens to be whole.
+bool IsInteger(const QX::ExpressionValue& value);
+
+/// The kind that a value is of, integers apart from other numbers. Nothing for an invalid value, and for a dimension
+/// that no kind has.
+TW::Optional<PropertyKind> FindKindOf(const QX::ExpressionValue& value);
+
 /// The word for a kind, `length` say.
 std::u16string_view GetKindName(PropertyKind kind);
 /// The kind that a word stands for. Case counts.

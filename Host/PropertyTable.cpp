@@ -1,14 +1,13 @@
 #include "Host/PropertyTable.hpp"
 
+#include "Host/CellEvaluation.hpp"
 #include "Host/ElementEnvironment.hpp"
 #include "Host/FormulaReader.hpp"
 #include "Host/FormulaText.hpp"
 #include "Host/Room.hpp"
 #include "Host/TableTexts.hpp"
-#include "Quorix/ExpressionSemanticExceptions.hpp"
 
 #include <algorithm>
-#include <exception>
 #include <new>
 #include <utility>
 
@@ -154,12 +153,15 @@ void PropertyTable::MarkDependents(PropertyIndex property, ElementIndex element)
   for (const PropertyIndex dependent : graph_.GetDependents(property)) pending_.MarkCell(dependent, element);
 }
 
-std::size_t PropertyTable::Recalculate() {
+std::size_t PropertyTable::Recalculate(const RecalculationProgress& progress) {
   std::size_t count = 0;
   graph_.UpdateRanks();
   pending_.Sort(graph_);
   try {
-    while (const TW::Optional<PendingCells::Cell> cell = pending_.Take(graph_)) Compute(*cell, count);
+    while (const TW::Optional<PendingCells::Cell> cell = pending_.Take(graph_)) {
+      Compute(*cell, count);
+      if (progress) progress(count);
+    }
   } catch (...) {
     MarkFormulas();
     throw;
@@ -188,28 +190,9 @@ bool PropertyTable::ComputeCell(PropertyIndex property, ElementIndex element, st
   if (column.GetStatus(element) == CellStatus::Absent) return false;
   ++count;
   const ElementEnvironment environment(*this, element, graph_.GetPrecedents(property));
-  try {
-    return KeepResult(property, element, formulas_[property].Evaluate(environment));
-  } catch (const QX::ExpressionTextTooLongException& failure) {
-    return column.SetFailure(element, {failure.GetSource(), 0, FailureKind::InvalidResult});
-  } catch (const QX::ExpressionSemanticException& failure) {
-    if (environment.HasLackedMemory()) pending_.MarkCell(property, element);
-    return column.SetFailure(element, {failure.GetSource(), failure.GetResIdx(), FailureKind::Evaluation});
-  } catch (const std::exception&) {
-    // A text may grow beyond the memory; that is the trouble of this cell alone.
-    pending_.MarkCell(property, element);
-    const short resourceIndex = QX::ExpressionInternalErrorException(nullptr).GetResIdx();
-    return column.SetFailure(element, {nullptr, resourceIndex, FailureKind::Evaluation});
-  }
-}
-
-bool PropertyTable::KeepResult(PropertyIndex property, ElementIndex element, QX::ExpressionValue value) {
-  Column& column = columns_[property];
-  const bool isTooLong = value.IsString() && value.GetAsString().GetLength() > LongestText;
-  if (!value.IsValid() || isTooLong) return column.SetFailure(element, {nullptr, 0, FailureKind::InvalidResult});
-  const TW::Optional<PropertyKind> kind = catalog_.Get(property).kind;
-  if (kind && !FitToKind(value, *kind)) return column.SetFailure(element, {nullptr, 0, FailureKind::WrongKind});
-  return column.SetValue(element, value);
+  const CellResult result = EvaluateCell(formulas_[property], environment, catalog_.Get(property).kind);
+  if (result.hasLackedMemory || environment.HasLackedMemory()) pending_.MarkCell(property, element);
+  return result.failure ? column.SetFailure(element, *result.failure) : column.SetValue(element, result.value);
 }
 
 const QX::Expression* PropertyTable::FindFormula(PropertyIndex property) const {
@@ -238,7 +221,7 @@ TW::Optional<FailureReport> PropertyTable::GetFailureReport(PropertyIndex proper
                                                             const EP::IParsingLocaleSettings& settings) const {
   const Failure* failure = FindFailure(property, element);
   if (failure == nullptr) return std::nullopt;
-  return ReportFailure(*failure, formulas_[property], property, catalog_, settings);
+  return ReportFailure(*failure, formulas_[property], catalog_.Get(property).kind, catalog_, settings);
 }
 
 TW::HashSet<TW::Guid> PropertyTable::GetDirectReferences(const TW::Guid& propertyId) const {

@@ -13,11 +13,15 @@
 #include "TW/Optional.hpp"
 
 #include <cstddef>
+#include <functional>
 #include <limits>
 #include <string_view>
 #include <vector>
 
 namespace Host {
+
+/// Is told how many cells were computed so far.
+using RecalculationProgress = std::function<void(std::size_t computed)>;
 
 /// The properties of a building model: a column for each property, a row for each element. The values of a property are
 /// inputs, or its formula computes them from other properties of the same element.
@@ -64,8 +68,10 @@ class PropertyTable final : public QX::IExpressionReferenceResolver {
 
   /// Computes the cells that depend on what has changed, and no others, each after those that it depends on. Gives
   /// their number. Nothing that a formula does is thrown: one that finds too little memory fails, and is computed again
-  /// the next time. Throws `std::bad_alloc` when the cells themselves find none; then the next time computes them all.
-  std::size_t Recalculate();
+  /// the next time. `progress` is told how many there were so far, after each column and each single cell; it must not
+  /// change the table. Throws what `progress` throws, and `std::bad_alloc` when the cells themselves find no memory;
+  /// then the next time computes them all.
+  std::size_t Recalculate(const RecalculationProgress& progress = {});
 
   const PropertyCatalog& GetCatalog() const { return catalog_; }
   const DependencyGraph& GetGraph() const { return graph_; }
@@ -101,7 +107,6 @@ class PropertyTable final : public QX::IExpressionReferenceResolver {
   void Compute(const PendingCells::Cell& cell, std::size_t& count);
   bool ComputeColumn(PropertyIndex property, std::size_t& count);
   bool ComputeCell(PropertyIndex property, ElementIndex element, std::size_t& count);
-  bool KeepResult(PropertyIndex property, ElementIndex element, QX::ExpressionValue value);
 
   EvaluationSettings settings_;
   PropertyCatalog catalog_;

@@ -1,5 +1,6 @@
 #include "Answer.hpp"
 
+#include "Host/Json/FailureJson.hpp"
 #include "Host/Json/ValueJson.hpp"
 #include "Host/NodeSpan.hpp"
 #include "Quorix/PropertyDirectReferenceCollector.hpp"
@@ -8,28 +9,6 @@
 
 namespace Command {
 namespace {
-
-void WriteRange(Host::JsonWriter& writer, TW::Range<unsigned int> range) {
-  writer.WriteKey("begin");
-  writer.WriteInteger(range.begin);
-  writer.WriteKey("end");
-  writer.WriteInteger(range.end);
-}
-
-void WriteSource(Host::JsonWriter& writer, const QX::ExpressionNode& source, const QX::ExpressionString& text) {
-  WriteRange(writer, text.GetNodeRange(&source));
-  const TW::Range<unsigned int> span = Host::GetSpan(text, source);
-  writer.WriteKey("span");
-  writer.BeginArray();
-  writer.WriteInteger(span.begin);
-  writer.WriteInteger(span.end);
-  writer.EndArray();
-}
-
-void WriteStage(Host::JsonWriter& writer, std::string_view stage) {
-  writer.WriteKey("stage");
-  writer.WriteName(stage);
-}
 
 void WriteId(Host::JsonWriter& writer, std::string_view id) {
   if (id.empty()) return;
@@ -89,20 +68,14 @@ void WriteDisplay(Host::JsonWriter& writer, const QX::ExpressionValue& value, co
 }
 
 void WriteFailure(Host::JsonWriter& writer, const Failure& failure, const QX::ExpressionString& text) {
-  writer.BeginObject();
   const bool isSyntax = failure.stage == Failure::Stage::Syntax;
-  WriteStage(writer, isSyntax ? "syntax" : "evaluation");
-  writer.WriteKey("name");
-  writer.WriteText(failure.name);
-  if (failure.index != 0) {
-    writer.WriteKey("index");
-    writer.WriteInteger(failure.index);
+  Host::FailureFacts facts{isSyntax ? "syntax" : "evaluation", failure.name, failure.index, failure.message};
+  if (isSyntax) facts.place = failure.place;
+  if (failure.source != nullptr) {
+    facts.place = text.GetNodeRange(failure.source);
+    facts.span = Host::GetSpan(text, *failure.source);
   }
-  writer.WriteKey("message");
-  writer.WriteText(failure.message);
-  if (isSyntax) WriteRange(writer, failure.place);
-  if (failure.source != nullptr) WriteSource(writer, *failure.source, text);
-  writer.EndObject();
+  Host::WriteFailure(writer, facts);
 }
 
 void WriteAnswer(Host::JsonWriter& writer, std::string_view id, const Evaluation& evaluation,
@@ -124,13 +97,7 @@ void WriteRefusal(Host::JsonWriter& writer, std::string_view id, std::string_vie
   writer.BeginObject();
   WriteId(writer, id);
   writer.WriteKey("error");
-  writer.BeginObject();
-  WriteStage(writer, "request");
-  writer.WriteKey("name");
-  writer.WriteName(name);
-  writer.WriteKey("message");
-  writer.WriteText(message);
-  writer.EndObject();
+  Host::WriteFailure(writer, {"request", TW::UniString::FromUtf8(name), 0, TW::UniString(message)});
   writer.EndObject();
 }
 

@@ -117,19 +117,22 @@ Settings CommonOptions::GetSettings(Settings defaults) const {
                      thousand_.value_or(locale.GetThousandSeparator())};
   defaults.renderLocale = defaults.locale;
   for (const auto& change : unitChanges_) change(defaults.display.units);
-  defaults.propagateUndefined = propagateUndefined_;
+  defaults.propagateUndefined = defaults.propagateUndefined || propagateUndefined_;
   return defaults;
 }
 
 Settings CommonOptions::GetUserSettings() const {
   Settings settings;
+  if (!locale_) settings.locale = QX::SystemLocaleSettings();
+  return GetSettingsOfLocale(settings);
+}
+
+Settings CommonOptions::GetSettingsOfLocale(Settings defaults) const {
   if (locale_) {
     const TW::SystemSymbols symbols = TW::ReadSystemSymbols(locale_->c_str());
-    settings.locale = {symbols.decimal, symbols.listSeparator, symbols.digitGrouping};
-  } else {
-    settings.locale = QX::SystemLocaleSettings();
+    defaults.locale = {symbols.decimal, symbols.listSeparator, symbols.digitGrouping};
   }
-  return GetSettings(settings);
+  return GetSettings(defaults);
 }
 
 void CommonOptions::SetProperties(Environment& environment, PropertyNames& names) const {
@@ -137,6 +140,14 @@ void CommonOptions::SetProperties(Environment& environment, PropertyNames& names
     const TW::Guid propertyId = names.GetPropertyId(TW::UniString::FromUtf8(name));
     environment.SetValue(propertyId, ReadValue(name, text, environment));
   }
+}
+
+std::vector<std::pair<std::string_view, ExpressionValue>> CommonOptions::EvaluateProperties(
+    const Settings& settings) const {
+  const Environment environment(settings);
+  std::vector<std::pair<std::string_view, ExpressionValue>> values;
+  for (const auto& [name, text] : properties_) values.emplace_back(name, ReadValue(name, text, environment));
+  return values;
 }
 
 }  // namespace Command

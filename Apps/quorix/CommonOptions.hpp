@@ -26,8 +26,12 @@ class CommonOptions {
   Settings GetSettings(Settings defaults) const;
   /// The same over what suits the user: separators of the locale asked for, or else of the environment.
   Settings GetUserSettings() const;
+  /// The same, with the separators of `defaults` where no locale is asked for.
+  Settings GetSettingsOfLocale(Settings defaults) const;
   /// Sets the properties that the options give. Throws `UsageError` for a value that has none.
   void SetProperties(Environment& environment, PropertyNames& names) const;
+  /// Evaluates the properties that the options give, without properties. Throws `UsageError` for one without a value.
+  std::vector<std::pair<std::string_view, QX::ExpressionValue>> EvaluateProperties(const Settings& settings) const;
 
   bool HasProperties() const { return !properties_.empty(); }
   bool IsJson() const { return json_; }

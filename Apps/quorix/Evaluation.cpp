@@ -58,6 +58,14 @@ Failure DescribeCaughtException() {
   }
 }
 
+Failure DescribeException(const std::exception_ptr& exception) {
+  try {
+    std::rethrow_exception(exception);
+  } catch (...) {
+    return DescribeCaughtException();
+  }
+}
+
 Evaluation Evaluate(const TW::UniString& formula, const Environment& environment) {
   Evaluation evaluation;
   evaluation.failure = Attempt([&] {

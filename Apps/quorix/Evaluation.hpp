@@ -7,6 +7,7 @@
 #include "TW/Range.hpp"
 #include "TW/UniString.hpp"
 
+#include <exception>
 #include <string_view>
 
 namespace Command {
@@ -35,6 +36,9 @@ Evaluation Evaluate(const TW::UniString& formula, const Environment& environment
 
 /// The failure that an exception stands for; throws on what is none of the library's. To be called while it is caught.
 Failure DescribeCaughtException();
+
+/// The same for one that was kept.
+Failure DescribeException(const std::exception_ptr& exception);
 
 /// Calls `evaluate` and gives why it failed, or nothing.
 template <class Function>

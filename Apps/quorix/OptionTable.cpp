@@ -1,6 +1,7 @@
 #include "OptionTable.hpp"
 
 #include <algorithm>
+#include <array>
 
 namespace Command {
 namespace {
@@ -18,9 +19,9 @@ bool IsOption(std::string_view argument) {
 
 std::string Quote(std::string_view text) { return "'" + std::string(text) + "'"; }
 
-std::string GetUsage(std::string_view name, std::string_view valueName) {
+std::string GetUsage(std::string_view name, std::string_view valueNames) {
   std::string usage = "  " + std::string(Prefix) + std::string(name);
-  if (!valueName.empty()) usage += " " + std::string(valueName);
+  if (!valueNames.empty()) usage += " " + std::string(valueNames);
   return usage;
 }
 
@@ -31,12 +32,18 @@ OptionTable::OptionTable() {
 }
 
 void OptionTable::AddFlag(std::string_view name, std::string_view help, std::function<void()> take) {
-  options_.push_back({name, {}, help, [take = std::move(take)](std::string_view) { take(); }});
+  options_.push_back({name, {}, help, 0, [take = std::move(take)](std::string_view, std::string_view) { take(); }});
 }
 
 void OptionTable::AddValue(std::string_view name, std::string_view valueName, std::string_view help,
                            std::function<void(std::string_view)> take) {
-  options_.push_back({name, valueName, help, std::move(take)});
+  options_.push_back({name, valueName, help, 1,
+                      [take = std::move(take)](std::string_view value, std::string_view) { take(value); }});
+}
+
+void OptionTable::AddPair(std::string_view name, std::string_view valueNames, std::string_view help,
+                          std::function<void(std::string_view, std::string_view)> take) {
+  options_.push_back({name, valueNames, help, 2, std::move(take)});
 }
 
 const OptionTable::Option& OptionTable::Find(std::string_view name) const {
@@ -74,24 +81,28 @@ std::size_t OptionTable::TakeOption(std::span<const std::string_view> arguments)
   const std::string_view joined = hasValue ? name.substr(equals + 1) : std::string_view();
   name = name.substr(0, equals);
   const Option& option = Find(name);
-  const bool wantsValue = !option.valueName.empty();
   const std::string shown = Quote(std::string(Prefix) + std::string(name));
-  if (!wantsValue && hasValue) throw UsageError("The option " + shown + " takes no value.");
-  if (wantsValue && !hasValue && arguments.size() == 1) throw UsageError("The option " + shown + " needs a value.");
+  if (option.valueCount == 0 && hasValue) throw UsageError("The option " + shown + " takes no value.");
+  const std::size_t following = option.valueCount - (hasValue ? 1 : 0);
+  if (arguments.size() <= following) {
+    throw UsageError("The option " + shown + (option.valueCount > 1 ? " needs two values." : " needs a value."));
+  }
+  std::array<std::string_view, 2> values{joined};
+  std::copy_n(arguments.begin() + 1, following, values.begin() + (hasValue ? 1 : 0));
   try {
-    option.take(hasValue || !wantsValue ? joined : arguments[1]);
+    option.take(values[0], values[1]);
   } catch (const UsageError& error) {
     throw UsageError("The option " + shown + " " + error.what());
   }
-  return wantsValue && !hasValue ? 2 : 1;
+  return following + 1;
 }
 
 std::string OptionTable::GetHelp() const {
   std::size_t width = 0;
-  for (const Option& option : options_) width = std::max(width, GetUsage(option.name, option.valueName).size());
+  for (const Option& option : options_) width = std::max(width, GetUsage(option.name, option.valueNames).size());
   std::string help;
   for (const Option& option : options_) {
-    std::string usage = GetUsage(option.name, option.valueName);
+    std::string usage = GetUsage(option.name, option.valueNames);
     usage.resize(width + 2, ' ');
     help += usage + std::string(option.help) + "\n";
   }

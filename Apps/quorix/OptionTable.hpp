@@ -28,6 +28,9 @@ class OptionTable {
   void AddFlag(std::string_view name, std::string_view help, std::function<void()> take);
   void AddValue(std::string_view name, std::string_view valueName, std::string_view help,
                 std::function<void(std::string_view)> take);
+  /// An option of two values, `--name FIRST SECOND`, or `--name=FIRST SECOND`.
+  void AddPair(std::string_view name, std::string_view valueNames, std::string_view help,
+               std::function<void(std::string_view, std::string_view)> take);
 
   /// Takes the options and gives the operands. Throws `UsageError`.
   std::vector<std::string_view> Take(std::span<const std::string_view> arguments);
@@ -39,9 +42,10 @@ class OptionTable {
  private:
   struct Option {
     std::string_view name;
-    std::string_view valueName;  ///< empty for a flag
+    std::string_view valueNames;  ///< empty for a flag
     std::string_view help;
-    std::function<void(std::string_view)> take;
+    std::size_t valueCount;  ///< at most two
+    std::function<void(std::string_view, std::string_view)> take;
   };
 
   const Option& Find(std::string_view name) const;

@@ -3,10 +3,9 @@
 #include "EP/ReferenceString.hpp"
 #include "EP/TextConstants.hpp"
 #include "EP/Tokenizer.hpp"
-#include "IO/MD5Channel.hpp"
+#include "Host/NameGuid.hpp"
 #include "Quorix/ExpressionReferenceFormatUtils.hpp"
 
-#include <algorithm>
 #include <cstddef>
 
 namespace Command {
@@ -66,15 +65,7 @@ std::size_t FindName(std::u16string_view text, const EP::IParsingLocaleSettings&
 }  // namespace
 
 TW::Guid PropertyNames::GetGuid(const TW::UniString& name) {
-  IO::MD5Channel channel;
-  channel.WriteString(name.ToNormalizationFormC());
-  const IO::MD5Channel::Digest digest = channel.GetDigest();
-  TW::Guid::Bytes bytes;
-  std::copy(digest.begin(), digest.end(), bytes.begin());
-  // The marks of a GUID that is made from a name by this digest.
-  bytes[6] = static_cast<std::uint8_t>((bytes[6] & 0x0F) | 0x30);
-  bytes[8] = static_cast<std::uint8_t>((bytes[8] & 0x3F) | 0x80);
-  const TW::Guid guid(bytes);
+  const TW::Guid guid = Host::MakeNameGuid(name);
   names_.Add(guid, name);
   return guid;
 }

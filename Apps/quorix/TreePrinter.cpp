@@ -19,7 +19,7 @@ std::string Print(TW::Range<unsigned int> range) {
   return std::to_string(range.begin) + ".." + std::to_string(range.end);
 }
 
-std::string GetNodeCell(const NodeFacts& facts) {
+std::string GetNodeCell(const Host::NodeFacts& facts) {
   std::string cell(2 * std::min(facts.depth, DeepestIndentation), ' ');
   if (facts.depth > DeepestIndentation) cell += "(" + std::to_string(facts.depth) + ") ";
   return cell += facts.node->GetClassInfo()->GetName();
@@ -31,7 +31,7 @@ void Align(std::vector<Row>& rows, std::size_t column) {
   for (Row& row : rows) row[column].resize(width + Gap, ' ');
 }
 
-void WritePlace(Host::JsonWriter& writer, const NodeFacts& facts) {
+void WritePlace(Host::JsonWriter& writer, const Host::NodeFacts& facts) {
   writer.WriteKey("begin");
   writer.WriteInteger(facts.range.begin);
   writer.WriteKey("end");
@@ -48,13 +48,13 @@ void WritePlace(Host::JsonWriter& writer, const NodeFacts& facts) {
 TreePrinter::TreePrinter(const Evaluation& evaluation, const Environment& environment)
     : environment_(environment),
       text_(evaluation.expression.GetExpressionString(environment.GetSettings().renderLocale)),
-      nodes_(ListNodes(*evaluation.expression.GetRoot(), text_, environment)) {}
+      nodes_(Host::ListNodes(*evaluation.expression.GetRoot(), text_, environment)) {}
 
 void TreePrinter::AppendTable(std::string& out, const PropertyNames& names) {
   shown_ = names.RestoreNames(text_.GetFullString());
   out += shown_.GetText().ToUtf8() + "\n\n";
   std::vector<Row> rows{{"Node", "Version", "Range", "Value"}};
-  for (const NodeFacts& facts : nodes_) rows.push_back(MakeRow(facts));
+  for (const Host::NodeFacts& facts : nodes_) rows.push_back(MakeRow(facts));
   for (std::size_t column = 0; column + 1 < rows.front().size(); ++column) Align(rows, column);
   for (const Row& row : rows) {
     for (const std::string& cell : row) out += cell;
@@ -69,21 +69,22 @@ void TreePrinter::AppendJson(std::string& out) const {
   writer.WriteText(text_.GetFullString());
   writer.WriteKey("nodes");
   writer.BeginArray();
-  for (const NodeFacts& facts : nodes_) WriteNode(writer, facts);
+  for (const Host::NodeFacts& facts : nodes_) WriteNode(writer, facts);
   writer.EndArray();
   writer.EndObject();
   out += '\n';
 }
 
-Row TreePrinter::MakeRow(const NodeFacts& facts) const {
+Row TreePrinter::MakeRow(const Host::NodeFacts& facts) const {
   return {GetNodeCell(facts), std::to_string(facts.node->GetIntroductionVersion()),
           Print(shown_.FromOriginal(facts.range)), GetValueCell(facts)};
 }
 
-std::string TreePrinter::GetValueCell(const NodeFacts& facts) const {
+std::string TreePrinter::GetValueCell(const Host::NodeFacts& facts) const {
   if (facts.failure) {
-    const std::string name = facts.failure->name.ToUtf8();
-    const QX::ExpressionNode* source = facts.failure->source;
+    const Failure failure = DescribeException(facts.failure);
+    const std::string name = failure.name.ToUtf8();
+    const QX::ExpressionNode* source = failure.source;
     if (source == facts.node || source == nullptr) return name;
     return name + " at " + Print(shown_.FromOriginal(text_.GetNodeRange(source)));
   }
@@ -92,7 +93,7 @@ std::string TreePrinter::GetValueCell(const NodeFacts& facts) const {
   return text.GetLength() <= LongestValue ? text.ToUtf8() : text.Substring(0, LongestValue).ToUtf8() + "...";
 }
 
-void TreePrinter::WriteNode(Host::JsonWriter& writer, const NodeFacts& facts) const {
+void TreePrinter::WriteNode(Host::JsonWriter& writer, const Host::NodeFacts& facts) const {
   writer.BeginObject();
   writer.WriteKey("class");
   writer.WriteName(facts.node->GetClassInfo()->GetName());
@@ -105,18 +106,19 @@ void TreePrinter::WriteNode(Host::JsonWriter& writer, const NodeFacts& facts) co
   writer.EndObject();
 }
 
-void TreePrinter::WriteOutcome(Host::JsonWriter& writer, const NodeFacts& facts) const {
+void TreePrinter::WriteOutcome(Host::JsonWriter& writer, const Host::NodeFacts& facts) const {
   if (!facts.failure) {
     writer.WriteKey("value");
     Host::WriteValue(writer, facts.value);
     return WriteDisplay(writer, facts.value, environment_);
   }
   writer.WriteKey("error");
-  if (facts.failure->source == facts.node) return WriteFailure(writer, *facts.failure, text_);
+  const Failure failure = DescribeException(facts.failure);
+  if (failure.source == facts.node) return WriteFailure(writer, failure, text_);
   // The nodes above the one at fault only name the failure.
   writer.BeginObject();
   writer.WriteKey("name");
-  writer.WriteText(facts.failure->name);
+  writer.WriteText(failure.name);
   writer.EndObject();
 }
 

@@ -3,7 +3,7 @@
 #include "Environment.hpp"
 #include "Evaluation.hpp"
 #include "Host/Json/JsonWriter.hpp"
-#include "NodeList.hpp"
+#include "Host/NodeList.hpp"
 #include "PropertyNames.hpp"
 #include "Quorix/ExpressionString.hpp"
 
@@ -24,14 +24,14 @@ class TreePrinter {
   void AppendJson(std::string& out) const;
 
  private:
-  std::vector<std::string> MakeRow(const NodeFacts& facts) const;
-  std::string GetValueCell(const NodeFacts& facts) const;
-  void WriteNode(Host::JsonWriter& writer, const NodeFacts& facts) const;
-  void WriteOutcome(Host::JsonWriter& writer, const NodeFacts& facts) const;
+  std::vector<std::string> MakeRow(const Host::NodeFacts& facts) const;
+  std::string GetValueCell(const Host::NodeFacts& facts) const;
+  void WriteNode(Host::JsonWriter& writer, const Host::NodeFacts& facts) const;
+  void WriteOutcome(Host::JsonWriter& writer, const Host::NodeFacts& facts) const;
 
   const Environment& environment_;
   QX::ExpressionString text_;
-  std::vector<NodeFacts> nodes_;
+  std::vector<Host::NodeFacts> nodes_;
   ReplacedText shown_;
 };
 

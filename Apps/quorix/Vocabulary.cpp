@@ -1,6 +1,6 @@
 #include "Vocabulary.hpp"
 
-#include "EditDistance.hpp"
+#include "Host/Texts/EditDistance.hpp"
 #include "Quorix/AcceptedUnits.hpp"
 #include "Quorix/FunctionNodeRegistry.hpp"
 #include "Quorix/IdentitiferNodeRegistry.hpp"
@@ -135,7 +135,7 @@ std::vector<TW::UniString> FindSimilarWords(const TW::UniString& word) {
     // Signs and units are too short to be like anything.
     if (group.kind != WordKind::Function && group.kind != WordKind::Constant) continue;
     for (const TW::UniString& candidate : group.words) {
-      const unsigned int distance = GetEditDistance(wanted, candidate, fewest);
+      const unsigned int distance = Host::GetEditDistance(wanted, candidate, fewest);
       if (distance > fewest) continue;
       if (distance < fewest) similar.clear();
       fewest = distance;

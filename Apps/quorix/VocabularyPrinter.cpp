@@ -1,7 +1,7 @@
 #include "VocabularyPrinter.hpp"
 
-#include "Host/Json/JsonWriter.hpp"
 #include "Answer.hpp"
+#include "Host/Json/JsonWriter.hpp"
 #include "Host/Json/ValueJson.hpp"
 #include "OptionTable.hpp"
 #include "WordHelp.hpp"

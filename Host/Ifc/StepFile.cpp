@@ -1,38 +1,13 @@
 #include "Host/Ifc/StepFile.hpp"
 
+#include "Host/Files/InputFile.hpp"
 #include "Host/Ifc/StepScan.hpp"
 #include "Host/Ifc/StepStatements.hpp"
 
-#include <cstdio>
-#include <filesystem>
-#include <system_error>
+#include <limits>
 #include <utility>
 
 namespace Host {
-namespace {
-
-struct Closer {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-
-// The size that the system gives is where to begin: it is wrong for pipes, and for files that grow meanwhile.
-bool ReadWhole(const std::string& path, std::string& text) {
-  const std::unique_ptr<std::FILE, Closer> file(std::fopen(path.c_str(), "rb"));
-  if (file == nullptr) return false;
-  constexpr std::size_t Step = std::size_t{1} << 20;
-  std::error_code error;
-  const std::uintmax_t size = std::filesystem::file_size(path, error);
-  std::size_t used = 0;
-  text.resize(error ? Step : static_cast<std::size_t>(size) + 1);
-  while (std::feof(file.get()) == 0 && std::ferror(file.get()) == 0) {
-    if (used == text.size()) text.resize(used + used / 2 + Step);
-    used += std::fread(text.data() + used, 1, text.size() - used, file.get());
-  }
-  text.resize(used);
-  return std::ferror(file.get()) == 0;
-}
-
-}  // namespace
 
 /// Reads a text into a file object.
 class StepFileReader {
@@ -172,7 +147,8 @@ class StepFileReader {
 
 StepFile StepFile::Read(const std::string& path) {
   std::string text;
-  if (ReadWhole(path, text)) return FromText(std::move(text));
+  constexpr std::size_t NoLimit = std::numeric_limits<std::size_t>::max();
+  if (ReadWholeFile(path, NoLimit, text) == FileReading::Read) return FromText(std::move(text));
   StepFile file{std::string()};
   file.messages_.Add(StepProblem::Unreadable, StepMessages::NoPlace);
   return file;

@@ -1,54 +1,15 @@
 #include "Host/Ifc/StepMessages.hpp"
 
+#include "Host/Texts/HostText.hpp"
+
 #include <algorithm>
 #include <numeric>
+#include <string>
 
 namespace Host {
-namespace {
-
-const char* Describe(StepProblem problem) {
-  switch (problem) {
-    case StepProblem::Unreadable:
-      return "the file cannot be read";
-    case StepProblem::NotAStepFile:
-      return "this is not a STEP file";
-    case StepProblem::NoDataSection:
-      return "there is no data section";
-    case StepProblem::CutOff:
-      return "the file ends too early";
-    case StepProblem::NoInstance:
-      return "this is not an instance";
-    case StepProblem::IdTooLarge:
-      return "the number of the instance is too large";
-    case StepProblem::DuplicateId:
-      return "there is an instance of this number before";
-    case StepProblem::TooManyInstances:
-      return "there are too many instances";
-    case StepProblem::UnknownSchema:
-      return "the schema is none of IFC2X3, IFC4 and IFC4X3";
-    case StepProblem::BrokenInstance:
-      return "the instance is broken";
-    case StepProblem::DanglingReference:
-      return "the instance refers to one that is not there";
-    case StepProblem::NoLengthUnit:
-      return "the project has no unit of length, metres are assumed";
-    case StepProblem::NoAreaUnit:
-      return "the project has no unit of area, square metres are assumed";
-    case StepProblem::NoVolumeUnit:
-      return "the project has no unit of volume, cubic metres are assumed";
-    case StepProblem::NoAngleUnit:
-      return "the project has no unit of angle, radians are assumed";
-  }
-  return "";
-}
-
-}  // namespace
-
-std::string StepMessage::GetText() const {
-  std::string text;
-  if (line != 0) text += "line " + std::to_string(line) + ": ";
-  if (id != 0) text += "#" + std::to_string(id) + ": ";
-  return text + Describe(problem);
+TW::UniString StepMessage::GetMessage() const {
+  const TW::UniString sentence = MakeText(TextList::Model, static_cast<int>(problem) + 1);
+  return id == 0 ? sentence : TW::UniString::FromUtf8("#" + std::to_string(id) + ": ") + sentence;
 }
 
 void StepMessages::Add(StepProblem problem, std::size_t position, std::uint64_t id) {

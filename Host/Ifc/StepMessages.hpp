@@ -1,14 +1,15 @@
 #pragma once
 
+#include "TW/UniString.hpp"
+
 #include <cstddef>
 #include <cstdint>
-#include <string>
 #include <string_view>
 #include <vector>
 
 namespace Host {
 
-/// What is wrong with a model file.
+/// What is wrong with a model file, in the order of the texts that say so.
 enum class StepProblem : std::uint8_t {
   // Nothing can be read.
   Unreadable,    ///< the system does not give the file
@@ -35,8 +36,8 @@ struct StepMessage {
   std::uint64_t id;    ///< the instance that is meant, or 0
 
   bool IsFatal() const { return problem <= StepProblem::NoDataSection; }
-  /// One line of English.
-  std::string GetText() const;
+  /// A sentence or two in the user's language, after the number of the instance if one is meant.
+  TW::UniString GetMessage() const;
 };
 
 /// Collects what is wrong with a file, and keeps the first problems of it.

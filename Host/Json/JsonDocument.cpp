@@ -2,6 +2,7 @@
 
 #include "TW/DecimalNumber.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <new>
@@ -30,7 +31,38 @@ struct ThrowingAllocator {
 
 std::uint32_t Narrow(std::size_t position) { return static_cast<std::uint32_t>(position); }
 
-bool IsBlank(char character) { return character == ' ' || character == '\t' || character == '\r' || character == '\n'; }
+bool IsBetweenValues(char character) { return std::string_view(" \t\r\n:,").find(character) != std::string_view::npos; }
+
+JsonFault ToFault(rapidjson::ParseErrorCode code) {
+  switch (code) {
+    case rapidjson::kParseErrorDocumentEmpty:
+      return JsonFault::Empty;
+    case rapidjson::kParseErrorDocumentRootNotSingular:
+      return JsonFault::More;
+    case rapidjson::kParseErrorObjectMissName:
+      return JsonFault::NameExpected;
+    case rapidjson::kParseErrorObjectMissColon:
+      return JsonFault::ColonExpected;
+    case rapidjson::kParseErrorObjectMissCommaOrCurlyBracket:
+      return JsonFault::ObjectGoesOn;
+    case rapidjson::kParseErrorArrayMissCommaOrSquareBracket:
+      return JsonFault::ArrayGoesOn;
+    case rapidjson::kParseErrorStringUnicodeEscapeInvalidHex:
+    case rapidjson::kParseErrorStringUnicodeSurrogateInvalid:
+    case rapidjson::kParseErrorStringEscapeInvalid:
+    case rapidjson::kParseErrorTermination:
+      return JsonFault::WrongEscape;
+    case rapidjson::kParseErrorStringMissQuotationMark:
+    case rapidjson::kParseErrorStringInvalidEncoding:
+      return JsonFault::UnfinishedText;
+    case rapidjson::kParseErrorNumberTooBig:
+    case rapidjson::kParseErrorNumberMissFraction:
+    case rapidjson::kParseErrorNumberMissExponent:
+      return JsonFault::WrongNumber;
+    default:
+      return JsonFault::ValueExpected;
+  }
+}
 
 // The length of a UTF-8 sequence and the bits of its first byte.
 struct Lead {
@@ -62,6 +94,24 @@ bool AppendUtf16(std::u16string& out, std::string_view text) {
 
 }  // namespace
 
+std::size_t FindUnitInJson(std::string_view json, std::size_t begin, std::size_t unit) {
+  std::size_t position = begin + 1;
+  while (unit > 0 && position < json.size() && json[position] != '"') {
+    const bool isEscape = json[position] == '\\';
+    const unsigned int length = ReadLead(static_cast<unsigned char>(json[position])).length;
+    const std::size_t units = length == 4 ? 2 : 1;
+    // The second half of a pair that is no escape has no place of its own.
+    if (units > unit) break;
+    unit -= units;
+    if (isEscape) {
+      position += json.substr(position + 1).starts_with('u') ? 6 : 2;
+    } else {
+      position += length;
+    }
+  }
+  return std::min(position, json.size());
+}
+
 class JsonDocument::Reader : public rapidjson::GenericReader<rapidjson::UTF8<>, rapidjson::UTF8<>, ThrowingAllocator> {
 };
 
@@ -75,11 +125,7 @@ class JsonDocument::Handler {
   bool Bool(bool value) { return value ? AddPlain(Kind::True, 4) : AddPlain(Kind::False, 5); }
   bool RawNumber(const char*, rapidjson::SizeType length, bool) { return AddPlain(Kind::Number, length); }
   bool String(const char* text, rapidjson::SizeType length, bool) { return AddText({text, length}); }
-  bool Key(const char* text, rapidjson::SizeType length, bool) {
-    if (!AddText({text, length})) return false;
-    afterKey_ = stream_.Tell();
-    return true;
-  }
+  bool Key(const char* text, rapidjson::SizeType length, bool) { return AddText({text, length}); }
   bool StartObject() { return Open(Kind::Object); }
   bool EndObject(rapidjson::SizeType) { return Close(); }
   bool StartArray() { return Open(Kind::Array); }
@@ -95,6 +141,7 @@ class JsonDocument::Handler {
   bool Add(Kind kind, std::size_t begin, std::size_t end, Stretch text) {
     const std::uint32_t next = Narrow(document_.nodes_.size() + 1);
     document_.nodes_.push_back({kind, next, {Narrow(begin), Narrow(end)}, text});
+    afterLast_ = end;
     return true;
   }
   bool AddPlain(Kind kind, std::size_t length) { return Add(kind, stream_.Tell() - length, stream_.Tell(), {0, 0}); }
@@ -105,32 +152,30 @@ class JsonDocument::Handler {
     return Add(Kind::Text, FindTextBegin(), stream_.Tell(), {Narrow(begin), Narrow(document_.texts_.size())});
   }
 
-  // Only the source of a member is ever asked for: it begins where the colon after the key says.
+  // The reader does not tell where a text begins, but nothing else stands between it and what came before.
   std::size_t FindTextBegin() const {
-    std::size_t position = afterKey_;
-    while (position < document_.source_.size() &&
-           (IsBlank(document_.source_[position]) || document_.source_[position] == ':')) {
-      ++position;
-    }
+    std::size_t position = afterLast_;
+    while (position < document_.source_.size() && IsBetweenValues(document_.source_[position])) ++position;
     return position;
   }
 
   bool Open(Kind kind) {
     open_.push_back(Narrow(document_.nodes_.size()));
-    return Add(kind, stream_.Tell(), stream_.Tell(), {0, 0});
+    return Add(kind, stream_.Tell(), stream_.Tell() + 1, {0, 0});
   }
 
   bool Close() {
     Node& node = document_.nodes_[open_.back()];
     node.next = Narrow(document_.nodes_.size());
-    node.source.end = Narrow(stream_.Tell() + 1);
+    afterLast_ = stream_.Tell() + 1;
+    node.source.end = Narrow(afterLast_);
     open_.pop_back();
     return true;
   }
 
   JsonDocument& document_;
   const rapidjson::MemoryStream& stream_;
-  std::size_t afterKey_ = 0;
+  std::size_t afterLast_ = 0;  ///< where the last bracket or value ended
   std::vector<std::uint32_t> open_;
 };
 
@@ -160,10 +205,10 @@ JsonValue JsonDocument::Read(std::string_view text) {
     const char* reason = result.Code() == rapidjson::kParseErrorTermination
                              ? "The surrogate pair in string is invalid."
                              : rapidjson::GetParseError_En(result.Code());
-    throw JsonError("byte " + std::to_string(result.Offset()) + ": " + reason);
+    throw JsonError(ToFault(result.Code()), result.Offset(), reason);
   }
   // The reader takes a byte 0 for the end.
-  if (stream.Tell() != text.size()) throw JsonError("byte " + std::to_string(stream.Tell()) + ": Invalid value.");
+  if (stream.Tell() != text.size()) throw JsonError(JsonFault::More, stream.Tell(), "Invalid value.");
   return {*this, 0};
 }
 

@@ -10,11 +10,38 @@
 
 namespace Host {
 
-/// A text is no JSON; the message says where and why.
+/// Why a text is no JSON.
+enum class JsonFault {
+  Empty,           ///< there is nothing
+  More,            ///< something follows the value
+  ValueExpected,   ///< something else stands where a value must begin
+  NameExpected,    ///< something else stands where the name of a member must begin
+  ColonExpected,   ///< after the name of a member
+  ObjectGoesOn,    ///< neither a comma nor a closing bracket follows a member
+  ArrayGoesOn,     ///< the same for an element
+  WrongEscape,     ///< a backslash and what follows it stand for nothing
+  UnfinishedText,  ///< a text is not closed before the line ends
+  WrongNumber,     ///< a number lacks digits or is too large
+};
+
+/// A text is no JSON; the message says where and why, in English.
 class JsonError : public std::runtime_error {
  public:
-  using std::runtime_error::runtime_error;
+  JsonError(JsonFault fault, std::size_t position, const std::string& reason)
+      : std::runtime_error("byte " + std::to_string(position) + ": " + reason), fault_(fault), position_(position) {}
+
+  JsonFault GetFault() const { return fault_; }
+  /// The byte of the text at which it was noticed.
+  std::size_t GetPosition() const { return position_; }
+
+ private:
+  JsonFault fault_;
+  std::size_t position_;
 };
+
+/// The position in `json` of the 16-bit unit of this number, from 0, of the text whose quotation mark stands at `begin`
+/// of a valid JSON text; that of the closing quotation mark when the text has no more units.
+std::size_t FindUnitInJson(std::string_view json, std::size_t begin, std::size_t unit);
 
 class JsonValue;
 
@@ -68,8 +95,10 @@ class JsonValue {
 
   /// The characters of a text.
   std::u16string_view GetText() const;
-  /// The value as it was written; not for a text within an array.
+  /// The value as it was written.
   std::string_view GetSource() const;
+  /// Where it begins in the text that was read, in bytes.
+  std::size_t GetPosition() const { return GetNode().source.begin; }
   /// Each gives false, and leaves `value` alone, when this is nothing of the kind or lies beyond the limits. Any number
   /// without a fraction counts as whole, however it is written.
   bool GetBool(bool& value) const;
@@ -79,9 +108,14 @@ class JsonValue {
   /// Calls `visit` with the key and value of each member of an object in order.
   template <class Visit>
   void ForEachMember(Visit&& visit) const {
+    ForEachKey([&visit](const JsonValue& key, const JsonValue& member) { visit(key.GetText(), member); });
+  }
+  /// The same with the key as a value, which is a text.
+  template <class Visit>
+  void ForEachKey(Visit&& visit) const {
     for (std::uint32_t index = index_ + 1; index < GetNode().next;) {
       const JsonValue member(*document_, index + 1);
-      visit(JsonValue(*document_, index).GetText(), member);
+      visit(JsonValue(*document_, index), member);
       index = member.GetNode().next;
     }
   }

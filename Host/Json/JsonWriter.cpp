@@ -1,5 +1,7 @@
 #include "Host/Json/JsonWriter.hpp"
 
+#include "Host/Files/Encoding.hpp"
+
 #include <charconv>
 #include <cmath>
 #include <cstddef>
@@ -12,8 +14,6 @@ bool IsPlain(char16_t unit) { return unit >= 0x20 && unit < 0x80 && unit != u'"'
 bool IsLead(char16_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
 
 bool IsTrail(char16_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
-
-char ContinuationByte(char32_t code, unsigned int shift) { return static_cast<char>(0x80 | ((code >> shift) & 0x3F)); }
 
 void AppendEscape(std::string& out, char16_t unit) {
   constexpr char Digits[] = "0123456789abcdef";
@@ -28,20 +28,6 @@ void AppendShortEscape(std::string& out, char16_t unit) {
   if (place == Units.npos) return AppendEscape(out, unit);
   out += '\\';
   out += Letters[place];
-}
-
-void AppendUtf8(std::string& out, char32_t code) {
-  if (code < 0x800) {
-    out += static_cast<char>(0xC0 | (code >> 6));
-  } else if (code < 0x10000) {
-    out += static_cast<char>(0xE0 | (code >> 12));
-    out += ContinuationByte(code, 6);
-  } else {
-    out += static_cast<char>(0xF0 | (code >> 18));
-    out += ContinuationByte(code, 12);
-    out += ContinuationByte(code, 6);
-  }
-  out += ContinuationByte(code, 0);
 }
 
 // Appends the character at `position`, which is none of the plain ones, and gives how many units it has.
@@ -85,6 +71,12 @@ void JsonWriter::WriteKey(std::string_view key) {
   follows_ = false;
 }
 
+void JsonWriter::WriteKey(std::u16string_view key) {
+  WriteText(key);
+  out_ += ": ";
+  follows_ = false;
+}
+
 void JsonWriter::WriteName(std::string_view name) {
   Separate();
   out_ += '"';
@@ -122,6 +114,11 @@ void JsonWriter::WriteInteger(long long value) {
 void JsonWriter::WriteSource(std::string_view json) {
   Separate();
   out_ += json;
+}
+
+void JsonWriter::BreakLine() {
+  out_ += follows_ ? ",\n" : "\n";
+  follows_ = false;
 }
 
 }  // namespace Host

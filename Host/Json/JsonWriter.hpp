@@ -5,7 +5,8 @@
 
 namespace Host {
 
-/// Appends JSON to a text, on one line, in UTF-8. It puts the commas; that the rest makes sense is up to the caller.
+/// Appends JSON to a text, on one line unless told otherwise, in UTF-8. It puts the commas; that the rest makes sense
+/// is up to the caller.
 class JsonWriter {
  public:
   /// Keeps a reference to `out`.
@@ -17,6 +18,8 @@ class JsonWriter {
   void EndArray() { Close(']'); }
   /// `key` is printable ASCII without quotation marks and backslashes.
   void WriteKey(std::string_view key);
+  /// The same for any key.
+  void WriteKey(std::u16string_view key);
   /// The same for a text.
   void WriteName(std::string_view name);
   /// Writes a lone surrogate as an escape.
@@ -28,6 +31,8 @@ class JsonWriter {
   void WriteNull() { WriteSource("null"); }
   /// Writes what is JSON already.
   void WriteSource(std::string_view json);
+  /// Makes the next value or key begin a line.
+  void BreakLine();
 
  private:
   void Open(char bracket);

@@ -3,22 +3,21 @@
 #include "Host/Files/FileProblems.hpp"
 #include "Host/PropertyDefinition.hpp"
 #include "Host/PropertyKind.hpp"
+#include "Host/Rules/ElementAttribute.hpp"
 #include "Quorix/ExpressionValue.hpp"
 #include "TW/Optional.hpp"
 #include "TW/UniString.hpp"
 
+#include <cstdint>
 #include <string_view>
 
 namespace Host {
-
-/// What every element of a model has, if perhaps empty.
-enum class ElementAttribute { Class, Name, GlobalId, Type, Storey, Tag };
 
 /// The elements of a model, and the values that are known of them. Any number of threads may ask.
 class ElementSource {
  public:
   /// Numbers what values are read from: a property of a set, or a column.
-  using SourceIndex = unsigned int;
+  using SourceIndex = std::uint64_t;
 
   virtual ~ElementSource() = default;
 

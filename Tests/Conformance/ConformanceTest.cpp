@@ -1,4 +1,5 @@
 #include "Quorix/Formulas.hpp"
+#include "Quorix/FunctionNodeRegistry.hpp"
 
 #include <gtest/gtest.h>
 
@@ -147,6 +148,19 @@ class CaseFile {
 class Conformance : public testing::TestWithParam<const char*> {};
 
 TEST_P(Conformance, Holds) { CaseFile(std::string(QX_CONFORMANCE_FOLDER "/") + GetParam() + ".qxt").Run(); }
+
+TEST(Conformance, EveryFunctionHasASection) {
+  std::string sections;
+  for (const char* const name : FileNames) {
+    std::ifstream file(std::string(QX_CONFORMANCE_FOLDER "/") + name + ".qxt");
+    for (std::string line; std::getline(file, line);) {
+      if (line.starts_with("# --- ")) sections += line.substr(5) + " ";
+    }
+  }
+  QX::GetFunctionNodeRegistry().EnumerateRegisteredFunctions([&sections](const TW::UniString& name) {
+    EXPECT_NE(sections.find(" " + name.ToUtf8() + " "), std::string::npos) << name.ToUtf8();
+  });
+}
 
 TEST(Documentation, SaysWhatFormulasGive) { CaseFile(QX_DOCUMENTATION_FOLDER "/Language.md").Run(); }
 

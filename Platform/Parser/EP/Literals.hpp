@@ -1,5 +1,6 @@
 #pragma once
 
+#include "EP/Export.hpp"
 #include "EP/FractionalInch.hpp"
 #include "EP/LocalizedNumberString.hpp"
 #include "TW/Optional.hpp"
@@ -18,11 +19,11 @@ struct NumberLiteral {
 };
 
 /// The value of a number of digits only that fits into 32 bits with a sign; nothing for any other number.
-TW::Optional<int> ReadIntegerLiteral(std::u16string_view literal);
+EP_EXPORT TW::Optional<int> ReadIntegerLiteral(std::u16string_view literal);
 /// Nothing when the number is too large for a double.
-TW::Optional<NumberLiteral> ReadNumberLiteral(std::u16string_view literal, char16_t decimalSeparator);
+EP_EXPORT TW::Optional<NumberLiteral> ReadNumberLiteral(std::u16string_view literal, char16_t decimalSeparator);
 /// Nothing when one of its numbers is not below `FractionalInch::Limit`.
-TW::Optional<FractionalInch> ReadFractionalInchLiteral(std::u16string_view literal);
-TW::UniString ReadQuotedTextLiteral(std::u16string_view literal);
+EP_EXPORT TW::Optional<FractionalInch> ReadFractionalInchLiteral(std::u16string_view literal);
+EP_EXPORT TW::UniString ReadQuotedTextLiteral(std::u16string_view literal);
 
 }  // namespace EP

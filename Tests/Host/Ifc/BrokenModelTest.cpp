@@ -21,7 +21,7 @@ std::size_t ReadAll(std::string text) {
       count += model.GetPropertyName(key).GetLength() + (model.ReadValue(place).value.IsValid() ? 1 : 0);
     });
   }
-  for (const Host::StepMessage& message : model.GetMessages().GetList()) count += message.GetText().size();
+  for (const Host::StepMessage& message : model.GetMessages().GetList()) count += message.GetMessage().GetLength();
   return count;
 }
 

@@ -125,23 +125,18 @@ TEST(IfcModel, FindsOnlyWhatAnElementHas) {
 
 TEST(IfcModel, TellsWhatIsMissing) {
   const std::string noUnits =
-      "the project has no unit of length, metres are assumed|the project has no unit of area, square metres are "
-      "assumed|the project has no unit of volume, cubic metres are assumed|the project has no unit of angle, radians "
-      "are assumed";
+      "The project has no unit of length|The project has no unit of area|The project has no unit of volume|"
+      "The project has no unit of angle";
   const std::pair<std::string, std::string> rows[] = {
       {std::string(IfcText::House), ""},
       {"", noUnits},
       {"#1=IFCRELDEFINESBYPROPERTIES('',$,$,$,(#7,#1),#8);",
-       noUnits + "|line 7: #1: the instance refers to one that is "
-                 "not there|line 7: #1: the instance refers to one that is not there"},
-      {"#1=IFCRELDEFINESBYTYPE('',$,$,$,(#1%),#1);", noUnits + "|line 7: #1: the instance is broken"},
+       noUnits + "|line 7: #1: The instance refers to one that is "
+                 "not there|line 7: #1: The instance refers to one that is not there"},
+      {"#1=IFCRELDEFINESBYTYPE('',$,$,$,(#1%),#1);", noUnits + "|line 7: #1: The instance is broken"},
   };
   for (const auto& [data, messages] : rows) {
-    std::string shown;
-    const IfcModel model = MakeModel(data);
-    for (const Host::StepMessage& message : model.GetMessages().GetList())
-      shown += (shown.empty() ? "" : "|") + message.GetText();
-    EXPECT_EQ(shown, messages);
+    EXPECT_EQ(IfcText::ShowMessages(MakeModel(data).GetMessages()), messages);
   }
   EXPECT_EQ(MakeModel(IfcText::House, "CONFIG_CONTROL_DESIGN").GetMessages().GetCount(), 1U);
 }

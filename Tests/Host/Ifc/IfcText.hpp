@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Host/Ifc/StepMessages.hpp"
+
 #include <string>
 #include <string_view>
 
@@ -13,6 +15,18 @@ inline std::string Wrap(std::string_view data, std::string_view schema = "IFC4")
   text += "'));\nENDSEC;\nDATA;\n";
   text += data;
   return text + "ENDSEC;\nEND-ISO-10303-21;\n";
+}
+
+/// The first sentence of each message after its line, with bars between.
+inline std::string ShowMessages(const Host::StepMessages& messages) {
+  std::string shown;
+  for (const Host::StepMessage& message : messages.GetList()) {
+    const std::string text = message.GetMessage().ToUtf8();
+    if (!shown.empty()) shown += "|";
+    if (message.line != 0) shown += "line " + std::to_string(message.line) + ": ";
+    shown += text.substr(0, text.find('.'));
+  }
+  return shown;
 }
 
 /// Two walls and a door in two storeys, with properties of every kind, a type that two of them share, and units in

@@ -113,31 +113,26 @@ TEST(StepFile, TellsWhatIsWrongAndWhere) {
   const std::string start = "ISO-10303-21;\nHEADER;\nENDSEC;\n";
   const std::string end = "ENDSEC;\nEND-ISO-10303-21;";
   const std::pair<std::string, const char*> rows[] = {
-      {"", "line 1: this is not a STEP file"},
-      {std::string("\0\xFF\x7F", 3), "line 1: this is not a STEP file"},
-      {"ISO-10303-21", "line 1: the file ends too early|line 1: there is no data section"},
+      {"", "line 1: This is not a STEP file"},
+      {std::string("\0\xFF\x7F", 3), "line 1: This is not a STEP file"},
+      {"ISO-10303-21", "line 1: The file ends too early|line 1: There is no data section"},
       {"\xEF\xBB\xBF /* */ ISO-10303-21;DATA;ENDSEC;END-ISO-10303-21;", ""},
-      {start + end, "line 5: there is no data section"},
-      {start + "END-ISO-10303-21;", "line 4: there is no data section"},
-      {start + "DATA;\n#1=A();\n", "line 6: the file ends too early"},
-      {start + "DATA;\n#1=A();\n#2=A('", "line 6: the file ends too early"},
-      {start + "DATA;\n#1=A();\n#2=A(/*", "line 6: the file ends too early"},
-      {start + "DATA;\n#1=A();\nEND-ISO-10303-21;", "line 6: the file ends too early"},
+      {start + end, "line 5: There is no data section"},
+      {start + "END-ISO-10303-21;", "line 4: There is no data section"},
+      {start + "DATA;\n#1=A();\n", "line 6: The file ends too early"},
+      {start + "DATA;\n#1=A();\n#2=A('", "line 6: The file ends too early"},
+      {start + "DATA;\n#1=A();\n#2=A(/*", "line 6: The file ends too early"},
+      {start + "DATA;\n#1=A();\nEND-ISO-10303-21;", "line 6: The file ends too early"},
       {start + "DATA;\n#1=A();\n1=A();\n#=A();\n#0=A();\n#7;\n#8=;\n#9=A;\n#10=A(1;\n" + end,
-       "line 6: this is not an instance|line 7: this is not an instance|line 8: this is not an instance|"
-       "line 9: #7: this is not an instance|line 10: #8: this is not an instance|line 11: #9: this is not an instance|"
-       "line 12: #10: this is not an instance"},
-      {start + "DATA;\n#1=A();\n#2=A();\n#1=B();\n" + end, "line 7: #1: there is an instance of this number before"},
-      {start + "DATA;\n#99999999999999999999=A();\n" + end, "line 5: the number of the instance is too large"},
+       "line 6: This is not an instance|line 7: This is not an instance|line 8: This is not an instance|"
+       "line 9: #7: This is not an instance|line 10: #8: This is not an instance|line 11: #9: This is not an instance|"
+       "line 12: #10: This is not an instance"},
+      {start + "DATA;\n#1=A();\n#2=A();\n#1=B();\n" + end, "line 7: #1: There is an instance of this number before"},
+      {start + "DATA;\n#99999999999999999999=A();\n" + end, "line 5: The number of the instance is too large"},
       {start + "DATA('x');#1=A();ENDSEC;DATA;#2=A();" + end, ""},
   };
   for (const auto& [text, messages] : rows) {
-    std::string shown;
-    const StepFile file = StepFile::FromText(text);
-    for (const Host::StepMessage& message : file.GetMessages().GetList()) {
-      shown += (shown.empty() ? "" : "|") + message.GetText();
-    }
-    EXPECT_EQ(shown, messages) << text;
+    EXPECT_EQ(IfcText::ShowMessages(StepFile::FromText(text).GetMessages()), messages) << text;
   }
 }
 
@@ -154,7 +149,7 @@ TEST(StepFile, TellsOfAFileThatIsNotThere) {
   for (const char* path : {"/nowhere/at/all.ifc", "/"}) {
     const StepFile file = StepFile::Read(path);
     ASSERT_TRUE(file.GetMessages().HasFatal());
-    EXPECT_EQ(file.GetMessages().GetList()[0].GetText(), "the file cannot be read");
+    EXPECT_EQ(IfcText::ShowMessages(file.GetMessages()), "The file cannot be read");
   }
 }
 

@@ -1,10 +1,10 @@
-#include "EditDistance.hpp"
+#include "Host/Texts/EditDistance.hpp"
 
 #include <algorithm>
 #include <numeric>
 #include <vector>
 
-namespace Command {
+namespace Host {
 
 unsigned int GetEditDistance(std::u16string_view a, std::u16string_view b, unsigned int limit) {
   if (std::max(a.size(), b.size()) - std::min(a.size(), b.size()) > limit) return limit + 1;
@@ -27,4 +27,4 @@ unsigned int GetEditDistance(std::u16string_view a, std::u16string_view b, unsig
   return row.back();
 }
 
-}  // namespace Command
+}  // namespace Host

@@ -1,12 +1,11 @@
-#include "Excerpt.hpp"
+#include "Host/Screen/Excerpt.hpp"
 
-#include <unicode/uchar.h>
-#include <unicode/utf16.h>
+#include "Host/Screen/ScreenText.hpp"
 
 #include <algorithm>
 #include <string_view>
 
-namespace Command {
+namespace Host {
 namespace {
 
 constexpr std::size_t LongestText = 100;
@@ -20,27 +19,18 @@ struct Cell {
   char mark;
 };
 
+// Two lines without line ends.
+struct Excerpt {
+  std::string text;
+  std::string marks;
+};
+
 using Cells = std::vector<Cell>;
-
-std::size_t GetWidth(UChar32 character) {
-  const auto width = u_getIntPropertyValue(character, UCHAR_EAST_ASIAN_WIDTH);
-  return width == U_EA_FULLWIDTH || width == U_EA_WIDE ? 2 : 1;
-}
-
-bool JoinsTheOneBefore(UChar32 character) {
-  constexpr std::uint32_t Joining = U_GC_MN_MASK | U_GC_ME_MASK | U_GC_CF_MASK;
-  return (U_GET_GC_MASK(character) & Joining) != 0;
-}
-
-bool MovesTheCursor(UChar32 character) {
-  constexpr std::uint32_t Moving = U_GC_CC_MASK | U_GC_ZL_MASK | U_GC_ZP_MASK;
-  return (U_GET_GC_MASK(character) & Moving) != 0;
-}
 
 // Gives the mark of each position asked for; positions must come in order.
 class Marker {
  public:
-  explicit Marker(const Place& place) : span_(place.span), core_(place.core) {
+  explicit Marker(const ExcerptPlace& place) : span_(place.span), core_(place.core) {
     for (auto& range : core_) range.end = std::max(range.end, range.begin + 1);
   }
 
@@ -56,26 +46,21 @@ class Marker {
   std::size_t next_ = 0;
 };
 
-void AddCharacter(Cells& cells, UChar32 character, std::u16string_view units, char mark) {
-  if (JoinsTheOneBefore(character) && !cells.empty()) {
-    cells.back().text += units;
-    if (mark == '^' || cells.back().mark == ' ') cells.back().mark = mark;
-  } else if (MovesTheCursor(character)) {
-    cells.push_back({u" ", 1, mark});
-  } else {
-    cells.push_back({TW::UniString(units), GetWidth(character), mark});
+void AddCharacter(Cells& cells, const ScreenCharacter& character, char mark) {
+  if (character.columns > 0) {
+    cells.push_back({TW::UniString(character.units), character.columns, mark});
+    return;
   }
+  cells.back().text += character.units;
+  if (mark == '^' || cells.back().mark == ' ') cells.back().mark = mark;
 }
 
-Cells MakeCells(const TW::UniString& formula, const Place& place) {
+Cells MakeCells(const TW::UniString& formula, const ExcerptPlace& place) {
   Cells cells;
   Marker marker(place);
-  const std::u16string_view text = formula;
-  for (std::size_t i = 0; i < text.size();) {
-    const std::size_t begin = i;
-    UChar32 character = 0;
-    U16_NEXT(text.data(), i, text.size(), character);
-    AddCharacter(cells, character, text.substr(begin, i - begin), marker.GetMark(static_cast<unsigned int>(begin)));
+  ScreenReader reader(formula);
+  for (ScreenCharacter character; reader.Read(character);) {
+    AddCharacter(cells, character, marker.GetMark(character.position));
   }
   // The place may be the end.
   cells.push_back({u" ", 1, marker.GetMark(formula.GetLength())});
@@ -108,9 +93,7 @@ TW::Range<std::size_t> ChooseWindow(const Cells& cells) {
 
 void RemoveTrailingBlanks(std::string& text) { text.erase(text.find_last_not_of(' ') + 1); }
 
-}  // namespace
-
-Excerpt MakeExcerpt(const TW::UniString& formula, const Place& place) {
+Excerpt MakeExcerpt(const TW::UniString& formula, const ExcerptPlace& place) {
   const Cells cells = MakeCells(formula, place);
   const TW::Range<std::size_t> window = ChooseWindow(cells);
   Excerpt excerpt;
@@ -128,4 +111,13 @@ Excerpt MakeExcerpt(const TW::UniString& formula, const Place& place) {
   return excerpt;
 }
 
-}  // namespace Command
+}  // namespace
+
+void AppendExcerpt(std::string& out, std::string_view indentation, const TW::UniString& formula,
+                   const ExcerptPlace& place) {
+  const Excerpt excerpt = MakeExcerpt(formula, place);
+  out.append(indentation).append(excerpt.text).append("\n");
+  if (!excerpt.marks.empty()) out.append(indentation).append(excerpt.marks).append("\n");
+}
+
+}  // namespace Host

@@ -1,10 +1,10 @@
-#include "NodeList.hpp"
+#include "Host/NodeList.hpp"
 
 #include "Quorix/ExpressionNodes/ExpressionBinaryOpNode.hpp"
 
 #include <algorithm>
 
-namespace Command {
+namespace Host {
 namespace {
 
 // A node that is still to be listed.
@@ -41,25 +41,33 @@ void FindRanges(std::vector<NodeFacts>& nodes, const QX::ExpressionString& text)
   }
 }
 
+template <class Evaluation>
+void Attempt(NodeFacts& facts, Evaluation&& evaluate) {
+  try {
+    facts.value = evaluate();
+  } catch (...) {
+    facts.failure = std::current_exception();
+  }
+}
+
 // The left operand, which comes next in the list, has its value already: chains of operators are not evaluated anew
 // from every link.
 void EvaluateOperator(const QX::ExpressionBinaryOpNode& node, NodeFacts& facts, const NodeFacts& left,
-                      const Environment& environment) {
+                      const QX::IExpressionEvaluationEnv& environment) {
   if (left.failure) {
     facts.failure = left.failure;
     return;
   }
-  facts.failure =
-      Attempt([&] { facts.value = node.EvaluateInternal(environment, left.value, facts.node->GetChild(1)); });
+  Attempt(facts, [&] { return node.EvaluateInternal(environment, left.value, facts.node->GetChild(1)); });
 }
 
-void EvaluateNodes(std::vector<NodeFacts>& nodes, const Environment& environment) {
+void EvaluateNodes(std::vector<NodeFacts>& nodes, const QX::IExpressionEvaluationEnv& environment) {
   for (std::size_t i = nodes.size(); i > 0; --i) {
     NodeFacts& facts = nodes[i - 1];
     if (const auto* binary = dynamic_cast<const QX::ExpressionBinaryOpNode*>(facts.node)) {
       EvaluateOperator(*binary, facts, nodes[i], environment);
     } else {
-      facts.failure = Attempt([&] { facts.value = facts.node->Evaluate(environment); });
+      Attempt(facts, [&] { return facts.node->Evaluate(environment); });
     }
   }
 }
@@ -67,11 +75,11 @@ void EvaluateNodes(std::vector<NodeFacts>& nodes, const Environment& environment
 }  // namespace
 
 std::vector<NodeFacts> ListNodes(const QX::ExpressionNode& root, const QX::ExpressionString& text,
-                                 const Environment& environment) {
+                                 const QX::IExpressionEvaluationEnv& environment) {
   std::vector<NodeFacts> nodes = ListTree(root);
   FindRanges(nodes, text);
   EvaluateNodes(nodes, environment);
   return nodes;
 }
 
-}  // namespace Command
+}  // namespace Host
