@@ -4,19 +4,24 @@
 
 define_property(GLOBAL PROPERTY QX_LAYERS BRIEF_DOCS "Names of the layers" FULL_DOCS "Names of the layers, lowest first")
 
-# qx_add_layer(<name> ROOT <include root> [USES <layer>...] FILES <source and header>...)
+# qx_add_layer(<name> ROOT <include root> [USES <layer>...] [OFFERS <header>...] FILES <source and header>...)
+#
+# Installed are the headers under OFFERS, those that mark something for export, and what these include.
 function(qx_add_layer name)
-  cmake_parse_arguments(arg "" "ROOT" "USES;FILES" ${ARGN})
+  cmake_parse_arguments(arg "" "ROOT" "USES;OFFERS;FILES" ${ARGN})
   add_library(${name} OBJECT ${arg_FILES})
-  target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${arg_ROOT}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+  target_include_directories(${name} PUBLIC "${arg_ROOT}")
   target_link_libraries(${name} PUBLIC ${arg_USES} PRIVATE qx_options)
   target_compile_features(${name} PUBLIC cxx_std_20)
   set_target_properties(${name} PROPERTIES QX_ROOT "${arg_ROOT}" LINKER_LANGUAGE CXX)
 
   set(files ${arg_FILES})
   list(TRANSFORM files PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/")
+  set(offers ${arg_OFFERS})
+  list(TRANSFORM offers PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/")
   set_property(GLOBAL APPEND PROPERTY QX_LAYERS ${name})
   set_property(GLOBAL PROPERTY QX_LAYER_${name}_FILES ${files})
+  set_property(GLOBAL PROPERTY QX_LAYER_${name}_OFFERS ${offers})
   set_property(GLOBAL PROPERTY QX_LAYER_${name}_ROOT ${arg_ROOT})
   set_property(GLOBAL PROPERTY QX_LAYER_${name}_USES ${arg_USES})
 endfunction()
@@ -30,10 +35,14 @@ function(qx_finish_layers)
   set(alone "")
   foreach(layer IN LISTS layers)
     get_property(files GLOBAL PROPERTY QX_LAYER_${layer}_FILES)
+    get_property(offers GLOBAL PROPERTY QX_LAYER_${layer}_OFFERS)
     get_property(root GLOBAL PROPERTY QX_LAYER_${layer}_ROOT)
     get_property(uses GLOBAL PROPERTY QX_LAYER_${layer}_USES)
     list(JOIN uses "," uses_text)
     string(APPEND table "layer|${layer}|${root}|${uses_text}\n")
+    foreach(file IN LISTS offers)
+      string(APPEND table "offer|${layer}|${file}\n")
+    endforeach()
     foreach(file IN LISTS files)
       string(APPEND table "file|${layer}|${file}\n")
       if(file MATCHES "[.]hpp$")
@@ -54,6 +63,7 @@ function(qx_finish_layers)
     COMMAND ${CMAKE_COMMAND} -DTABLE=${PROJECT_BINARY_DIR}/layers.txt -P "${PROJECT_SOURCE_DIR}/cmake/CheckLayers.cmake"
     COMMAND ${CMAKE_COMMAND} -E touch "${stamp}"
     DEPENDS ${all_files} "${PROJECT_BINARY_DIR}/layers.txt" "${PROJECT_SOURCE_DIR}/cmake/CheckLayers.cmake"
+            "${PROJECT_SOURCE_DIR}/cmake/LayerTable.cmake"
     COMMENT "Checking that each layer includes only the layers below it" VERBATIM)
   add_custom_target(qx_layer_check DEPENDS "${stamp}")
 

@@ -64,10 +64,9 @@ void ModelOptions::AddTo(OptionTable& options) {
                    [this](std::string_view names) { only = SplitNames(names); });
   options.AddValue("where", "FORMULA", "elements to tell of: those for which it is true",
                    [this](std::string_view formula) { TakeOnce(where, formula); });
-  options.AddPair("explain", "ELEMENT PROPERTY", "how a value came about; the element by GlobalId, name or tag",
-                  [this](std::string_view element, std::string_view property) {
-                    explanations.emplace_back(element, property);
-                  });
+  options.AddPair(
+      "explain", "ELEMENT PROPERTY", "how a value came about; the element by GlobalId, name or tag",
+      [this](std::string_view element, std::string_view property) { explanations.emplace_back(element, property); });
   options.AddFlag("table", "shows the table, whatever else is asked for", [this] { table = true; });
   options.AddFlag("no-table", "shows no table", [this] { table = false; });
   options.AddFlag("quiet", "shows neither warnings, nor progress, nor the summary", [this] { quiet = true; });

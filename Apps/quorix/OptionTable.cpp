@@ -37,8 +37,8 @@ void OptionTable::AddFlag(std::string_view name, std::string_view help, std::fun
 
 void OptionTable::AddValue(std::string_view name, std::string_view valueName, std::string_view help,
                            std::function<void(std::string_view)> take) {
-  options_.push_back({name, valueName, help, 1,
-                      [take = std::move(take)](std::string_view value, std::string_view) { take(value); }});
+  options_.push_back(
+      {name, valueName, help, 1, [take = std::move(take)](std::string_view value, std::string_view) { take(value); }});
 }
 
 void OptionTable::AddPair(std::string_view name, std::string_view valueNames, std::string_view help,

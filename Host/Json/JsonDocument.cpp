@@ -33,8 +33,8 @@ std::uint32_t Narrow(std::size_t position) { return static_cast<std::uint32_t>(p
 
 bool IsBetweenValues(char character) { return std::string_view(" \t\r\n:,").find(character) != std::string_view::npos; }
 
-JsonFault ToFault(rapidjson::ParseErrorCode code) {
-  switch (code) {
+JsonFault ToFault(const rapidjson::ParseResult& result, std::string_view text) {
+  switch (result.Code()) {
     case rapidjson::kParseErrorDocumentEmpty:
       return JsonFault::Empty;
     case rapidjson::kParseErrorDocumentRootNotSingular:
@@ -47,9 +47,11 @@ JsonFault ToFault(rapidjson::ParseErrorCode code) {
       return JsonFault::ObjectGoesOn;
     case rapidjson::kParseErrorArrayMissCommaOrSquareBracket:
       return JsonFault::ArrayGoesOn;
+    case rapidjson::kParseErrorStringEscapeInvalid:
+      // The reader says the same of a control character, such as the end of a line.
+      return text.substr(result.Offset()).starts_with('\\') ? JsonFault::WrongEscape : JsonFault::UnfinishedText;
     case rapidjson::kParseErrorStringUnicodeEscapeInvalidHex:
     case rapidjson::kParseErrorStringUnicodeSurrogateInvalid:
-    case rapidjson::kParseErrorStringEscapeInvalid:
     case rapidjson::kParseErrorTermination:
       return JsonFault::WrongEscape;
     case rapidjson::kParseErrorStringMissQuotationMark:
@@ -205,7 +207,7 @@ JsonValue JsonDocument::Read(std::string_view text) {
     const char* reason = result.Code() == rapidjson::kParseErrorTermination
                              ? "The surrogate pair in string is invalid."
                              : rapidjson::GetParseError_En(result.Code());
-    throw JsonError(ToFault(result.Code()), result.Offset(), reason);
+    throw JsonError(ToFault(result, text), result.Offset(), reason);
   }
   // The reader takes a byte 0 for the end.
   if (stream.Tell() != text.size()) throw JsonError(JsonFault::More, stream.Tell(), "Invalid value.");

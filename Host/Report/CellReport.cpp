@@ -67,9 +67,15 @@ class Printer {
   std::string& Out() { return buffer_.GetText(); }
 
   void PrintHead(PropertyIndex property, const TW::UniString& reason) {
-    TW::UniString element = MakeElementLabel(scope_.source, element_) + u" (";
-    element += scope_.source.GetAttribute(element_, ElementAttribute::Class) + u", ";
-    element += scope_.source.GetAttribute(element_, ElementAttribute::GlobalId) + u")";
+    TW::UniString element = MakeElementLabel(scope_.source, element_);
+    const char16_t* before = u" (";
+    for (const ElementAttribute attribute : {ElementAttribute::Class, ElementAttribute::GlobalId}) {
+      const TW::UniString text = scope_.source.GetAttribute(element_, attribute);
+      if (text.IsEmpty()) continue;
+      element += before + text;
+      before = u", ";
+    }
+    if (before[0] == u',') element += u")";
     TW::UniString value = MakeCellText(property);
     if (!scope_.table.HasFormula(property)) value += u"  " + origin_(property, element_);
     std::vector<Row> rows;

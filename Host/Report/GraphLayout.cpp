@@ -12,6 +12,8 @@ constexpr int OrderingPasses = 8;
 constexpr int SettlingPasses = 8;
 // Ways are more readable when they are straight.
 constexpr double WayWeight = 4;
+// So many points of ways there may be however small a graph is.
+constexpr std::size_t RoomForSmallGraphs = 10'000;
 
 // Neighbours in a layer that have been pushed together and move as one.
 struct Block {
@@ -67,7 +69,7 @@ void GraphLayout::MakeWays(std::span<const unsigned int> layers, std::span<const
   for (const GraphEdge& edge : edges) {
     wanted[edge.from] = std::max(wanted[edge.from], layers[edge.to] - layers[edge.from] - 1);
   }
-  std::size_t room = 8 * (layers.size() + edges.size()) + 1000;
+  std::size_t room = 2 * (layers.size() + edges.size()) + RoomForSmallGraphs;
   for (Item node = 0; node < layers.size(); ++node) {
     if (wanted[node] > room) continue;
     room -= wanted[node];

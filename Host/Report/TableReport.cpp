@@ -6,6 +6,7 @@
 #include "Host/Report/SinkBuffer.hpp"
 
 #include <algorithm>
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -27,6 +28,7 @@ struct Cell {
 };
 
 struct PropertyColumn {
+  std::size_t place;  // among all columns
   PropertyIndex property;
   ScreenText heading;
   ScreenColumn column;
@@ -52,13 +54,14 @@ class Printer {
   }
 
   void Print() {
-    for (const ElementIndex element : elements_) Measure(element);
+    for (const ElementIndex element : elements_) NoteFailures(element);
+    for (std::size_t row = 0; row < elements_.size(); ++row) Measure(row);
     std::span<const PropertyColumn> rest = columns_;
     do {
       const std::size_t count = FindBlock(rest);
       PrintBlock(rest.first(count));
       rest = rest.subspan(count);
-      buffer_.GetText() += '\n';
+      if (!rest.empty()) buffer_.GetText() += '\n';
     } while (!rest.empty());
     PrintLegend();
     buffer_.Flush();
@@ -82,16 +85,23 @@ class Printer {
     for (std::size_t i = 0; i < labels.size(); ++i) {
       const PropertyIndex property = scope_.properties[i];
       const ScreenColumn column{most, 0, IsNumeric(catalog.Get(property))};
-      columns_.push_back({property, MakeScreenText(labels[i], most), column});
+      columns_.push_back({i, property, MakeScreenText(labels[i], most), column});
       columns_.back().column.Widen(columns_.back().heading);
     }
   }
 
-  void Measure(ElementIndex element) {
-    name_.Widen(MakeName(element));
-    class_.Widen(MakeClass(element));
+  // Once for all blocks: beside each other the cells of an element cost least.
+  void NoteFailures(ElementIndex element) {
+    for (const PropertyColumn& shown : columns_) {
+      numbers_.push_back(static_cast<std::uint32_t>(failures_.FindNumber(shown.property, element)));
+    }
+  }
+
+  void Measure(std::size_t row) {
+    name_.Widen(MakeName(elements_[row]));
+    class_.Widen(MakeClass(elements_[row]));
     for (PropertyColumn& shown : columns_) {
-      const Cell cell = MakeCell(shown, element);
+      const Cell cell = MakeCell(shown, row);
       shown.column.Widen(cell.text);
       // Without a declared kind the values show which side is theirs.
       if (cell.atRight) shown.column.isRight = true;
@@ -105,7 +115,8 @@ class Printer {
     return MakeScreenText(scope_.source.GetAttribute(element, ElementAttribute::Class), class_.maximumColumns);
   }
 
-  Cell MakeCell(const PropertyColumn& shown, ElementIndex element) {
+  Cell MakeCell(const PropertyColumn& shown, std::size_t row) {
+    const ElementIndex element = elements_[row];
     const std::size_t most = shown.column.maximumColumns;
     switch (scope_.table.GetStatus(shown.property, element)) {
       case CellStatus::Defined:
@@ -113,7 +124,8 @@ class Printer {
       case CellStatus::Undefined:
         return {MakeScreenText(undefinedWord_, most), shown.column.isRight};
       case CellStatus::Failed:
-        return {MakeScreenText(MakeFailureText(shown.property, element), most), shown.column.isRight};
+        return {MakeScreenText(MakeFailureText(numbers_[row * columns_.size() + shown.place]), most),
+                shown.column.isRight};
       default:
         hasAbsent_ = true;
         return {MakeScreenText(AbsentSign, most), shown.column.isRight};
@@ -129,8 +141,7 @@ class Printer {
     return {std::move(shown), isNumber};
   }
 
-  TW::UniString MakeFailureText(PropertyIndex property, ElementIndex element) {
-    const std::size_t number = failures_.FindNumber(property, element);
+  TW::UniString MakeFailureText(std::size_t number) {
     if (firstFailure_ == 0) firstFailure_ = number;
     return TW::UniString(FailureSign) + MakeNumberText(number);
   }
@@ -154,7 +165,7 @@ class Printer {
     for (const PropertyColumn& shown : columns) shown.column.Append(out, shown.heading, shown.column.isRight);
     EndLine(out);
     PrintRule(columns);
-    for (const ElementIndex element : elements_) PrintRow(element, columns);
+    for (std::size_t row = 0; row < elements_.size(); ++row) PrintRow(row, columns);
   }
 
   void PrintRule(std::span<const PropertyColumn> columns) {
@@ -164,12 +175,12 @@ class Printer {
     buffer_.GetText() += '\n';
   }
 
-  void PrintRow(ElementIndex element, std::span<const PropertyColumn> columns) {
+  void PrintRow(std::size_t row, std::span<const PropertyColumn> columns) {
     std::string line;
-    name_.Append(line, MakeName(element), false);
-    class_.Append(line, MakeClass(element), false);
+    name_.Append(line, MakeName(elements_[row]), false);
+    class_.Append(line, MakeClass(elements_[row]), false);
     for (const PropertyColumn& shown : columns) {
-      const Cell cell = MakeCell(shown, element);
+      const Cell cell = MakeCell(shown, row);
       shown.column.Append(line, cell.text, cell.atRight);
     }
     EndLine(line);
@@ -178,6 +189,8 @@ class Printer {
   }
 
   void PrintLegend() {
+    const bool hasMore = elements_.size() < scope_.elements.size();
+    if (hasMore || hasAbsent_ || firstFailure_ != 0) buffer_.GetText() += '\n';
     if (const std::size_t rest = scope_.elements.size() - elements_.size(); rest > 0) {
       PrintLine(MakeCountText(ReportText::OneMoreElement, ReportText::MoreElements, rest));
     }
@@ -199,6 +212,7 @@ class Printer {
   ScreenText nameHeading_;
   ScreenText classHeading_;
   std::vector<PropertyColumn> columns_;
+  std::vector<std::uint32_t> numbers_;  // of the reasons, row after row; 0 for what has not failed
   bool hasAbsent_ = false;
   std::size_t firstFailure_ = 0;
 };

@@ -174,15 +174,14 @@ Element        Class       Number
 áé​              right le…       1
  � lone                         …
 A name that …  IFCWALL          3
-
 )");
 }
 
 TEST_F(TableReport, IsThereWithoutRowsOrColumns) {
   ReportModel model(std::vector<FakeSource::Element>{});
-  EXPECT_EQ(MakeTable(model.MakeScope()), "Element  Class\n──────────────\n\n");
+  EXPECT_EQ(MakeTable(model.MakeScope()), "Element  Class\n──────────────\n");
   model.Define("Width", PropertyKind::Length);
-  EXPECT_EQ(MakeTable(model.MakeScope()), "Element  Class  Width\n─────────────────────\n\n");
+  EXPECT_EQ(MakeTable(model.MakeScope()), "Element  Class  Width\n─────────────────────\n");
   EXPECT_EQ(MakeFailureList(model.MakeScope()), "");
   EXPECT_EQ(MakeSummaryText(model.MakeScope()),
             "Elements: 0   Values: 0   Undefined: 0   Not applicable: 0   Errors: 0\n");

@@ -1,0 +1,32 @@
+# Reads the file TABLE that qx_finish_layers wrote. For each of the `layers` it sets root_<layer>, files_<layer>,
+# offers_<layer> (the headers that the layer names for users) and uses_<layer> (itself and all below it); for each name
+# that an include may give, as a C identifier, layer_of_<name> and path_of_<name>.
+
+file(STRINGS "${TABLE}" rows)
+foreach(row IN LISTS rows)
+  string(REPLACE "|" ";" fields "${row}")
+  list(GET fields 0 what)
+  list(GET fields 1 layer)
+  list(GET fields 2 path)
+  if(what STREQUAL "layer")
+    set(root_${layer} "${path}")
+    list(GET fields 3 uses)
+    string(REPLACE "," ";" uses_${layer} "${uses}")
+    # What a used layer uses may be used too.
+    foreach(used IN LISTS uses_${layer})
+      list(APPEND uses_${layer} ${uses_${used}})
+    endforeach()
+    list(APPEND uses_${layer} ${layer})
+    list(REMOVE_DUPLICATES uses_${layer})
+  elseif(what STREQUAL "offer")
+    list(APPEND offers_${layer} "${path}")
+  else()
+    list(APPEND files_${layer} "${path}")
+    list(APPEND layers ${layer})
+    file(RELATIVE_PATH name "${root_${layer}}" "${path}")
+    string(MAKE_C_IDENTIFIER "${name}" key)
+    set(layer_of_${key} ${layer})
+    set(path_of_${key} "${path}")
+  endif()
+endforeach()
+list(REMOVE_DUPLICATES layers)
