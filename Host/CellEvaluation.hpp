@@ -1,9 +1,9 @@
 #pragma once
 
 #include "Host/Cell.hpp"
-#include "Host/ElementEnvironment.hpp"
 #include "Host/PropertyKind.hpp"
 #include "Quorix/Expression.hpp"
+#include "Quorix/ExpressionEvaluationEnv.hpp"
 #include "Quorix/ExpressionValue.hpp"
 #include "TW/Optional.hpp"
 
@@ -13,12 +13,12 @@ namespace Host {
 struct CellResult {
   QX::ExpressionValue value;
   TW::Optional<Failure> failure;
-  bool hasLackedMemory = false;  ///< the failure may be gone another time
+  bool hasLackedMemory = false;  ///< whether there may be a value once there is more memory
 };
 
-/// Evaluates a formula for an element. The result is to be of a kind if one is given, and texts are bounded as in the
-/// cells of a table. Throws nothing that the formula does.
-CellResult EvaluateCell(const QX::Expression& formula, const ElementEnvironment& environment,
+/// Evaluates a formula, whose result is to be of a kind if one is given, and no longer a text than the environment
+/// allows. Throws nothing that the formula does.
+CellResult EvaluateCell(const QX::Expression& formula, const QX::IExpressionEvaluationEnv& environment,
                         TW::Optional<PropertyKind> kind);
 
 }  // namespace Host

@@ -190,8 +190,8 @@ bool PropertyTable::ComputeCell(PropertyIndex property, ElementIndex element, st
   if (column.GetStatus(element) == CellStatus::Absent) return false;
   ++count;
   const ElementEnvironment environment(*this, element, graph_.GetPrecedents(property));
-  CellResult result = EvaluateCell(formulas_[property], environment, catalog_.Get(property).kind);
-  if (result.hasLackedMemory) pending_.MarkCell(property, element);
+  const CellResult result = EvaluateCell(formulas_[property], environment, catalog_.Get(property).kind);
+  if (result.hasLackedMemory || environment.HasLackedMemory()) pending_.MarkCell(property, element);
   return result.failure ? column.SetFailure(element, *result.failure) : column.SetValue(element, result.value);
 }
 

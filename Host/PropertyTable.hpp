@@ -68,9 +68,9 @@ class PropertyTable final : public QX::IExpressionReferenceResolver {
 
   /// Computes the cells that depend on what has changed, and no others, each after those that it depends on. Gives
   /// their number. Nothing that a formula does is thrown: one that finds too little memory fails, and is computed again
-  /// the next time. Throws `std::bad_alloc` when the cells themselves find none; then the next time computes them all.
-  /// `progress` is told how many there were so far, after each column and each single cell; it must not change the
-  /// table.
+  /// the next time. `progress` is told how many there were so far, after each column and each single cell; it must not
+  /// change the table. Throws what `progress` throws, and `std::bad_alloc` when the cells themselves find no memory;
+  /// then the next time computes them all.
   std::size_t Recalculate(const RecalculationProgress& progress = {});
 
   const PropertyCatalog& GetCatalog() const { return catalog_; }

@@ -204,7 +204,8 @@ std::string Show(const Host::IfcModel& model) {
     });
     text += "\n";
   }
-  for (const Host::StepMessage& message : model.GetMessages().GetList()) text += message.GetMessage().ToUtf8() + "\n";
+  for (const Host::StepMessage& message : model.GetMessages().GetList())
+    text += std::to_string(static_cast<int>(message.problem)) + " " + std::to_string(message.line) + "\n";
   return text;
 }
 
