@@ -91,6 +91,7 @@ TEST(IfcPropertyReader, ReadsSeveralValuesAndQuantities) {
       {"IFCPROPERTYLISTVALUE('P',$,(IFCLENGTHMEASURE(2.)),$)", IfcKind::Length, 0.002},
       {"IFCPROPERTYLISTVALUE('P',$,(IFCLENGTHMEASURE(2.)),#4)", IfcKind::Length, 2e18},
       {"IFCPROPERTYBOUNDEDVALUE('P',$,IFCREAL(9.),IFCREAL(1.),$,IFCREAL(4.))", IfcKind::Number, 4},
+      {"IFCPROPERTYBOUNDEDVALUE('P',$,IFCREAL(9./* ) ' */),IFCREAL(1.),$,IFCREAL(4.))", IfcKind::Number, 4},
       {"IFCPROPERTYBOUNDEDVALUE('P',$,IFCREAL(9.),IFCREAL(1.),$,$)", IfcKind::None},
       {"IFCPROPERTYBOUNDEDVALUE('P',$,IFCREAL(9.),IFCREAL(1.),$)", IfcKind::None},
       {"IFCQUANTITYLENGTH('P',$,$,IFCLENGTHMEASURE(2.),$)", IfcKind::Length, 0.002},

@@ -52,6 +52,7 @@ std::vector<IfcAddedProperty> MakeProperties(IfcModel::Element) {
       {u"Takeoff", u"Integer", {IfcKind::Integer, ExpressionValue::FromInteger(-5)}},
       {u"Takeoff", u"Text", {IfcKind::Text, ExpressionValue::FromString(u"a'b\\ \U0001F600")}},
       {u"Takeoff", u"Logical", {IfcKind::Logical, ExpressionValue::FromBool(true)}},
+      {u"Takeoff", u"False", {IfcKind::Logical, ExpressionValue::FromBool(false)}},
       {u"Takeoff", u"Unknown", {IfcKind::Logical, ExpressionValue::FromBool(undefined)}},
   };
 }
@@ -102,6 +103,31 @@ TEST_F(IfcWriter, WritesTheTextThatTheSchemaWants) {
   ASSERT_EQ(Host::WriteIfcModel(MakeHouse(), Path("out.ifc"), MakeProperties), TW::NoErr);
   const IfcModel written = IfcModel::Read(Path("out.ifc"));
   for (const char* row : rows) EXPECT_NE(written.GetFile().GetText().find(row), std::string_view::npos) << row;
+}
+
+TEST_F(IfcWriter, GivesNoValueToWhatTheUnitMakesTooLarge) {
+  const auto makeHuge = [](auto) {
+    return std::vector<IfcAddedProperty>{
+        {u"Set", u"Huge", {IfcKind::Length, Quantity(1e307, UnitExponents::CreateLength())}}};
+  };
+  ASSERT_EQ(Host::WriteIfcModel(MakeHouse(), Path("out.ifc"), makeHuge), TW::NoErr);
+  const IfcModel written = IfcModel::Read(Path("out.ifc"));
+  EXPECT_EQ(written.FindValue(0, *written.FindKey(u"Set.Huge")).value_or(IfcValue()).kind, IfcKind::None);
+  EXPECT_NE(written.GetFile().GetText().find("IFCPROPERTYSINGLEVALUE('Huge',$,$,$);"), std::string_view::npos);
+}
+
+TEST_F(IfcWriter, TakesBackWhatItAddedToAFileWithOtherLineEnds) {
+  ASSERT_EQ(Host::WriteIfcModel(MakeHouse(), Path("first.ifc"), MakeProperties), TW::NoErr);
+  const auto withReturns = [](std::string_view text) {
+    std::string changed;
+    for (const char byte : text) changed += byte == '\n' ? std::string("\r\n") : std::string(1, byte);
+    return changed;
+  };
+  const std::string added(IfcModel::Read(Path("first.ifc")).GetFile().GetText());
+  const IfcModel first(Host::StepFile::FromText(withReturns(added)));
+  ASSERT_EQ(Host::WriteIfcModel(first, Path("out.ifc"), [](auto) { return std::vector<IfcAddedProperty>(); }),
+            TW::NoErr);
+  EXPECT_EQ(IfcModel::Read(Path("out.ifc")).GetFile().GetText(), withReturns(IfcText::Wrap(IfcText::House)));
 }
 
 TEST_F(IfcWriter, LeavesNothingBehindWhenItFails) {

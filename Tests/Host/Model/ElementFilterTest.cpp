@@ -1,3 +1,4 @@
+#include "Host/ElementEnvironment.hpp"
 #include "Host/Model/ElementFilter.hpp"
 #include "Host/SmallModel.hpp"
 
@@ -49,6 +50,26 @@ TEST(ElementFilter, TellsWhatBecameOfEachElement) {
     const TW::UniString failure = found.firstFailure ? found.firstFailure->name : TW::UniString();
     EXPECT_EQ(failure.ToUtf8(), TW::UniString(row.firstFailure).ToUtf8()) << row.condition;
   }
+}
+
+TEST(ElementEnvironment, TellsWhetherAFormulaCanBeEvaluated) {
+  Widths model;
+  const Host::ReadFormula formula =
+      Host::ReadFormulaWithNames(u"2 * [Width] + [Inverse]", model.settings, model.table.GetCatalog());
+  const auto getStatus = [&](Host::ElementIndex element) {
+    return formula.expression.GetEvaluableStatus(Host::ElementEnvironment(model.table, element));
+  };
+  // The first element divides by zero; the fourth is undefined; the others have failed or are absent.
+  const bool isEvaluable[] = {false, true, true, true, false, false};
+  for (Host::ElementIndex element = 0; element < std::size(isEvaluable); ++element) {
+    EXPECT_EQ(getStatus(element),
+              isEvaluable[element] ? QX::EvaluableStatus::Evaluable : QX::EvaluableStatus::NotEvaluable)
+        << element;
+  }
+  model.DefineFormula("New", "1");
+  const Host::ReadFormula early = Host::ReadFormulaWithNames(u"[New]", model.settings, model.table.GetCatalog());
+  EXPECT_EQ(early.expression.GetEvaluableStatus(Host::ElementEnvironment(model.table, 0)),
+            QX::EvaluableStatus::NotYetEvaluable);
 }
 
 }  // namespace
