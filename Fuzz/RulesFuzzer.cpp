@@ -52,6 +52,7 @@ void CheckTable(const RulesFile& file) {
   const BoundedMemory shortage;
   FillFromSource(table, rules, Host::CsvElements(model, rules.locale));
   table.Recalculate();
+  if (problems.HasFatal()) return;
   for (Host::PropertyIndex property = 0; property < rules.properties.size(); ++property) {
     for (Host::ElementIndex element = 0; element < table.GetElementCount(); ++element) {
       Require(table.GetStatus(property, element) != Host::CellStatus::NotComputed, "every cell is computed");

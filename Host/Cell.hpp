@@ -17,7 +17,7 @@ enum class CellStatus : std::uint8_t {
 
 enum class FailureKind : std::uint8_t {
   Evaluation,     ///< an operation of the formula failed
-  InvalidResult,  ///< the formula gave an invalid value, as after an overflow
+  InvalidResult,  ///< an invalid value, as after an overflow, or too long a text
   WrongKind,      ///< the result, or what the source of an input holds, is not of the declared kind
 };
 

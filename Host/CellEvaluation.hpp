@@ -13,9 +13,11 @@ namespace Host {
 struct CellResult {
   QX::ExpressionValue value;
   TW::Optional<Failure> failure;
+  bool hasLackedMemory = false;  ///< whether there may be a value once there is more memory
 };
 
-/// Evaluates a formula, whose result is to be of a kind if one is given. Throws nothing that the formula does.
+/// Evaluates a formula, whose result is to be of a kind if one is given, and no longer a text than the environment
+/// allows. Throws nothing that the formula does.
 CellResult EvaluateCell(const QX::Expression& formula, const QX::IExpressionEvaluationEnv& environment,
                         TW::Optional<PropertyKind> kind);
 

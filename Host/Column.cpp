@@ -1,5 +1,7 @@
 #include "Host/Column.hpp"
 
+#include "Host/Room.hpp"
+
 #include <bit>
 
 namespace Host {
@@ -14,6 +16,18 @@ constexpr ExpressionValue::UndefinedSelector Undefined;
 
 Column::Column(TW::Optional<PropertyKind> kind) : kind_(kind), hasDimension_(kind.has_value()) {
   if (kind) dimension_ = GetDimension(*kind);
+}
+
+void Column::MakeRoomFor(ElementIndex count) {
+  const auto makeRoom = [count](auto& cells) {
+    if (count > cells.size()) MakeRoom(cells, count - cells.size());
+  };
+  makeRoom(numbers_);
+  makeRoom(states_);
+  if (!rarities_) return;
+  if (!rarities_->texts.empty()) makeRoom(rarities_->texts);
+  if (!rarities_->failures.empty()) makeRoom(rarities_->failures);
+  if (!rarities_->dimensions.empty()) makeRoom(rarities_->dimensions);
 }
 
 void Column::Resize(ElementIndex count) {

@@ -16,11 +16,14 @@ namespace Host {
 /// The cells of one property, one for each element. A number or a logical value takes nine bytes. Texts, failures and,
 /// in a column without a declared kind, dimensions that differ from cell to cell are kept apart, once there are any.
 ///
-/// The setters say whether the cell is now another than before. Elements must be within the column.
+/// The setters say whether the cell is now another than before; one that throws leaves it as it was, and an undefined
+/// value of the column's kind can always be set. Elements must be within the column.
 class Column {
  public:
   explicit Column(TW::Optional<PropertyKind> kind);
 
+  /// Makes room, so that `Resize` to as many cells cannot fail.
+  void MakeRoomFor(ElementIndex count);
   /// Adds cells that are not computed, or removes cells at the end.
   void Resize(ElementIndex count);
 

@@ -1,5 +1,6 @@
 #include "Host/DependencyGraph.hpp"
 
+#include "Host/Room.hpp"
 #include "TW/HashSet.hpp"
 #include "TW/HashTable.hpp"
 
@@ -61,7 +62,15 @@ class DependencyGraph::Search {
   State state_ = State::Running;
 };
 
+void DependencyGraph::MakeRoomForProperty() {
+  MakeRoom(precedents_, 1);
+  MakeRoom(dependents_, 1);
+  MakeRoom(ranks_, 1);
+  MakeRoom(order_, 1);
+}
+
 void DependencyGraph::AddProperty() {
+  MakeRoomForProperty();
   const auto property = static_cast<PropertyIndex>(ranks_.size());
   precedents_.emplace_back();
   dependents_.emplace_back();
@@ -71,11 +80,15 @@ void DependencyGraph::AddProperty() {
 
 std::vector<PropertyIndex> DependencyGraph::SetPrecedents(PropertyIndex property,
                                                           std::span<const PropertyIndex> precedents) {
-  if (!KeepsOrder(property, precedents)) {
+  const bool keepsOrder = KeepsOrder(property, precedents);
+  if (!keepsOrder) {
     std::vector<PropertyIndex> cycle = FindCycle(property, precedents);
     if (!cycle.empty()) return cycle;
-    inOrder_ = false;
   }
+  MakeRoom(precedents_[property], precedents.size());
+  for (const PropertyIndex precedent : precedents) MakeRoom(dependents_[precedent], 1);
+  // From here on nothing fails.
+  inOrder_ = keepsOrder && inOrder_;
   for (const PropertyIndex old : precedents_[property]) {
     dependents_[old].erase(std::ranges::find(dependents_[old], property));
   }

@@ -15,12 +15,15 @@ namespace Host {
 /// change has put them out of order.
 class DependencyGraph {
  public:
+  /// Makes room, so that `AddProperty` cannot fail.
+  void MakeRoomForProperty();
   /// Adds a property that is computed from nothing.
   void AddProperty();
 
   /// Replaces what a property is computed from, each named once. Where that would close a cycle, changes nothing and
   /// gives it, from the property back to the property, each followed by one of its precedents; otherwise gives nothing.
-  /// Takes time by the smaller of what depends on the property and what the new precedents depend on.
+  /// Takes time by the smaller of what depends on the property and what the new precedents depend on. What throws
+  /// changes nothing.
   std::vector<PropertyIndex> SetPrecedents(PropertyIndex property, std::span<const PropertyIndex> precedents);
 
   std::span<const PropertyIndex> GetPrecedents(PropertyIndex property) const { return View(precedents_[property]); }

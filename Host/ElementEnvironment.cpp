@@ -2,6 +2,8 @@
 
 #include "Host/PropertyTable.hpp"
 
+#include <new>
+
 namespace Host {
 
 const PropertyIndex* ElementEnvironment::Find(const TW::Guid& propertyId) const {
@@ -27,7 +29,13 @@ QX::EvaluableStatus ElementEnvironment::GetPropertyEvaluableStatus(const TW::Gui
 
 QX::ExpressionValue ElementEnvironment::GetPropertyValue(const TW::Guid& propertyId) const {
   const PropertyIndex* property = Find(propertyId);
-  return property != nullptr ? table_.GetValue(*property, element_) : QX::ExpressionValue::CreateInvalid();
+  if (property == nullptr) return QX::ExpressionValue::CreateInvalid();
+  try {
+    return table_.GetValue(*property, element_);
+  } catch (const std::bad_alloc&) {
+    hasLackedMemory_ = true;
+    throw;
+  }
 }
 
 const QX::IExpressionUnitConverter& ElementEnvironment::GetUnitConverter() const {
@@ -41,5 +49,7 @@ const QX::IEvaluationLocaleSettings& ElementEnvironment::GetLocaleSettings() con
 bool ElementEnvironment::IsUserUndefinedPropagationEnabled() const {
   return table_.GetSettings().isUndefinedPropagationEnabled;
 }
+
+unsigned int ElementEnvironment::GetLongestText() const { return PropertyTable::LongestText; }
 
 }  // namespace Host

@@ -4,6 +4,7 @@
 #include "Quorix/ExpressionEvaluationEnv.hpp"
 
 #include <algorithm>
+#include <atomic>
 #include <cstddef>
 #include <span>
 
@@ -28,6 +29,11 @@ class ElementEnvironment final : public QX::IExpressionEvaluationEnv {
   const QX::IExpressionUnitConverter& GetUnitConverter() const override;
   const QX::IEvaluationLocaleSettings& GetLocaleSettings() const override;
   bool IsUserUndefinedPropagationEnabled() const override;
+  /// `PropertyTable::LongestText`.
+  unsigned int GetLongestText() const override;
+
+  /// Whether a value could not be given for want of memory.
+  bool HasLackedMemory() const { return hasLackedMemory_; }
 
  private:
   // A few comparisons are cheaper than the way through the table of GUIDs, many are not.
@@ -38,6 +44,7 @@ class ElementEnvironment final : public QX::IExpressionEvaluationEnv {
   const PropertyTable& table_;
   ElementIndex element_;
   std::span<const PropertyIndex> expected_;
+  mutable std::atomic<bool> hasLackedMemory_ = false;
 };
 
 }  // namespace Host

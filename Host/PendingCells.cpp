@@ -1,7 +1,10 @@
 #include "Host/PendingCells.hpp"
 
+#include "Host/Room.hpp"
+
 #include <algorithm>
 #include <functional>
+#include <new>
 
 namespace Host {
 namespace {
@@ -15,15 +18,30 @@ std::uint64_t MakeKey(unsigned int rank, const TW::Optional<ElementIndex>& eleme
 
 }  // namespace
 
-void PendingCells::MarkColumn(PropertyIndex property) {
+// There is always room for every column.
+void PendingCells::MakeRoomForProperty() {
+  MakeRoom(isWholeColumn_, 1);
+  MakeRoom(columns_, isWholeColumn_.size() + 1 - columns_.size());
+}
+
+void PendingCells::AddProperty() {
+  MakeRoomForProperty();
+  isWholeColumn_.push_back(false);
+}
+
+void PendingCells::MarkColumn(PropertyIndex property) noexcept {
   if (isWholeColumn_[property]) return;
   isWholeColumn_[property] = true;
   columns_.push_back(property);
 }
 
-void PendingCells::MarkCell(PropertyIndex property, ElementIndex element) {
+void PendingCells::MarkCell(PropertyIndex property, ElementIndex element) noexcept {
   if (isWholeColumn_[property]) return;
-  cells_.push_back({property, element});
+  try {
+    cells_.push_back({property, element});
+  } catch (const std::bad_alloc&) {
+    return MarkColumn(property);
+  }
   if (cells_.size() <= MaximumCellCount) return;
   for (const Cell& cell : cells_) MarkColumn(cell.property);
   cells_.clear();
@@ -35,6 +53,7 @@ void PendingCells::Mark(PropertyIndex property, const Cell& cause, const Depende
 
 void PendingCells::Sort(const DependencyGraph& graph) {
   heap_.clear();
+  heap_.reserve(columns_.size() + cells_.size());
   last_.reset();
   for (const PropertyIndex property : columns_) {
     isWholeColumn_[property] = false;

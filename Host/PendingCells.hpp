@@ -10,7 +10,7 @@
 namespace Host {
 
 /// Which cells are to be computed: single ones, or whole columns. Takes memory for so many single cells at most; beyond
-/// that, their columns are computed as a whole.
+/// that, and where there is no memory, their columns are computed as a whole.
 class PendingCells {
  public:
   struct Cell {
@@ -18,13 +18,15 @@ class PendingCells {
     TW::Optional<ElementIndex> element;  ///< every element when there is none
   };
 
-  void AddProperty() { isWholeColumn_.push_back(false); }
-  void MarkColumn(PropertyIndex property);
-  void MarkCell(PropertyIndex property, ElementIndex element);
+  /// Makes room, so that `AddProperty` cannot fail.
+  void MakeRoomForProperty();
+  void AddProperty();
+  void MarkColumn(PropertyIndex property) noexcept;
+  void MarkCell(PropertyIndex property, ElementIndex element) noexcept;
   /// While cells are taken: as the two above, for properties of higher rank than the cell taken last.
   void Mark(PropertyIndex property, const Cell& cause, const DependencyGraph& graph);
 
-  /// Makes ready for `Take`: `graph` has its ranks in order.
+  /// Makes ready for `Take`: `graph` has its ranks in order. What throws changes nothing.
   void Sort(const DependencyGraph& graph);
   /// The next in the order of ranks; each once, and none of a column that is taken as a whole. Nothing when all are
   /// taken.

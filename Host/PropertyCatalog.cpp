@@ -1,9 +1,11 @@
 #include "Host/PropertyCatalog.hpp"
 
 #include "Host/BracketedName.hpp"
+#include "Host/Room.hpp"
 #include "Quorix/ExpressionReferenceFormatUtils.hpp"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace Host {
@@ -21,10 +23,14 @@ TW::UniString MakeFullName(std::u16string_view name, std::u16string_view group) 
 TW::Optional<PropertyIndex> PropertyCatalog::Add(PropertyDefinition definition) {
   const bool usable = !definition.id.IsNull() && !definition.name.IsEmpty();
   if (!usable || IsTaken(definition.name, definition.group)) return std::nullopt;
+  if (byId_.Contains(definition.id)) return std::nullopt;
   const PropertyIndex property = GetCount();
-  if (!byId_.Add(definition.id, property)) return std::nullopt;
+  MakeRoom(definitions_, 1);
+  byId_.Reserve(property + 1);
+  AddNames(definition.name, definition.group, property);
+  // From here on nothing fails.
+  byId_.Add(definition.id, property);
   definitions_.push_back(std::move(definition));
-  AddNames(property);
   return property;
 }
 
@@ -33,11 +39,15 @@ bool PropertyCatalog::Rename(PropertyIndex property, const TW::UniString& name, 
   PropertyDefinition& definition = definitions_[property];
   if (definition.name == name && definition.group == group) return true;
   if (IsTaken(name, group)) return false;
+  TW::UniString newName = name;
+  TW::UniString newGroup = group;
+  const TW::UniString formerFullName = MakeFullName(definition.name, definition.group);
+  AddNames(newName, newGroup, property);
+  // From here on nothing fails.
   RemoveName(definition.name, property);
-  if (!definition.group.IsEmpty()) RemoveName(MakeFullName(definition.name, definition.group), property);
-  definition.name = name;
-  definition.group = group;
-  AddNames(property);
+  if (!definition.group.IsEmpty()) RemoveName(formerFullName, property);
+  definition.name = std::move(newName);
+  definition.group = std::move(newGroup);
   return true;
 }
 
@@ -68,22 +78,29 @@ bool PropertyCatalog::IsTaken(std::u16string_view name, std::u16string_view grou
   return std::ranges::any_of(FindByName(name), hasBoth);
 }
 
-void PropertyCatalog::AddNames(PropertyIndex property) {
-  const auto add = [&](TW::UniString&& name) {
-    if (Bearers* bearers = byName_.Find(name)) {
-      bearers->push_back(property);
-    } else {
-      byName_.Add(std::move(name), Bearers{property});
-    }
-  };
-  const PropertyDefinition& definition = definitions_[property];
-  add(TW::UniString(definition.name));
-  if (!definition.group.IsEmpty()) add(MakeFullName(definition.name, definition.group));
+void PropertyCatalog::AddNames(std::u16string_view name, std::u16string_view group, PropertyIndex property) {
+  AddName(name, property);
+  if (group.empty()) return;
+  try {
+    AddName(MakeFullName(name, group), property);
+  } catch (...) {
+    RemoveName(name, property);
+    throw;
+  }
 }
 
-void PropertyCatalog::RemoveName(std::u16string_view name, PropertyIndex property) {
+void PropertyCatalog::AddName(std::u16string_view name, PropertyIndex property) {
+  if (Bearers* bearers = byName_.Find(name)) {
+    bearers->push_back(property);
+  } else {
+    byName_.Add(TW::UniString(name), Bearers{property});
+  }
+}
+
+// The entry that was added last, should a name have come to stand for the property twice.
+void PropertyCatalog::RemoveName(std::u16string_view name, PropertyIndex property) noexcept {
   Bearers& bearers = byName_.Get(name);
-  bearers.erase(std::ranges::find(bearers, property));
+  bearers.erase(std::prev(std::find(bearers.rbegin(), bearers.rend(), property).base()));
   if (bearers.empty()) byName_.Remove(name);
 }
 

@@ -12,7 +12,8 @@ namespace Host {
 /// The definitions of properties, found by GUID and by name. No two have the same GUID, nor the same group and name.
 class PropertyCatalog {
  public:
-  /// Nothing when the GUID is null, the name is empty, or one of them is taken.
+  /// Nothing when the GUID is null, the name is empty, or one of them is taken. What throws changes nothing, here as
+  /// in `Rename`.
   TW::Optional<PropertyIndex> Add(PropertyDefinition definition);
   /// Gives false and changes nothing when the name is empty or taken within the group.
   bool Rename(PropertyIndex property, const TW::UniString& name, const TW::UniString& group);
@@ -30,8 +31,9 @@ class PropertyCatalog {
   using Bearers = std::vector<PropertyIndex>;
 
   bool IsTaken(std::u16string_view name, std::u16string_view group) const;
-  void AddNames(PropertyIndex property);
-  void RemoveName(std::u16string_view name, PropertyIndex property);
+  void AddNames(std::u16string_view name, std::u16string_view group, PropertyIndex property);
+  void AddName(std::u16string_view name, PropertyIndex property);
+  void RemoveName(std::u16string_view name, PropertyIndex property) noexcept;
 
   std::vector<PropertyDefinition> definitions_;
   TW::HashTable<TW::Guid, PropertyIndex> byId_;

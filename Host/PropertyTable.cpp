@@ -4,21 +4,29 @@
 #include "Host/ElementEnvironment.hpp"
 #include "Host/FormulaReader.hpp"
 #include "Host/FormulaText.hpp"
+#include "Host/Room.hpp"
 #include "Host/TableTexts.hpp"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 namespace Host {
 
 TW::Optional<PropertyIndex> PropertyTable::Define(PropertyDefinition definition) {
-  const TW::Optional<PropertyKind> kind = definition.kind;
+  Column column(definition.kind);
+  column.Resize(elementCount_);
+  MakeRoom(columns_, 1);
+  MakeRoom(formulas_, 1);
+  graph_.MakeRoomForProperty();
+  pending_.MakeRoomForProperty();
   const TW::Optional<PropertyIndex> property = catalog_.Add(std::move(definition));
   if (!property) return std::nullopt;
+  // From here on nothing fails.
   graph_.AddProperty();
   pending_.AddProperty();
   formulas_.emplace_back();
-  columns_.emplace_back(kind).Resize(elementCount_);
+  columns_.push_back(std::move(column));
   FillInputs(*property, 0);
   return property;
 }
@@ -28,6 +36,9 @@ bool PropertyTable::Rename(PropertyIndex property, const TW::UniString& name, co
 }
 
 ElementIndex PropertyTable::AddElements(ElementIndex count) {
+  if (count > MaximumElementCount - elementCount_) throw std::bad_alloc();
+  for (Column& column : columns_) column.MakeRoomFor(elementCount_ + count);
+  // From here on nothing fails.
   const ElementIndex first = std::exchange(elementCount_, elementCount_ + count);
   for (PropertyIndex property = 0; property < columns_.size(); ++property) {
     columns_[property].Resize(elementCount_);
@@ -116,6 +127,10 @@ bool PropertyTable::SetApplies(PropertyIndex property, ElementIndex element, boo
 
 void PropertyTable::SetSettings(EvaluationSettings settings) {
   settings_ = std::move(settings);
+  MarkFormulas();
+}
+
+void PropertyTable::MarkFormulas() noexcept {
   for (PropertyIndex property = 0; property < columns_.size(); ++property) {
     if (HasFormula(property)) pending_.MarkColumn(property);
   }
@@ -142,9 +157,14 @@ std::size_t PropertyTable::Recalculate(const RecalculationProgress& progress) {
   std::size_t count = 0;
   graph_.UpdateRanks();
   pending_.Sort(graph_);
-  while (const TW::Optional<PendingCells::Cell> cell = pending_.Take(graph_)) {
-    Compute(*cell, count);
-    if (progress) progress(count);
+  try {
+    while (const TW::Optional<PendingCells::Cell> cell = pending_.Take(graph_)) {
+      Compute(*cell, count);
+      if (progress) progress(count);
+    }
+  } catch (...) {
+    MarkFormulas();
+    throw;
   }
   return count;
 }
@@ -171,6 +191,7 @@ bool PropertyTable::ComputeCell(PropertyIndex property, ElementIndex element, st
   ++count;
   const ElementEnvironment environment(*this, element, graph_.GetPrecedents(property));
   const CellResult result = EvaluateCell(formulas_[property], environment, catalog_.Get(property).kind);
+  if (result.hasLackedMemory || environment.HasLackedMemory()) pending_.MarkCell(property, element);
   return result.failure ? column.SetFailure(element, *result.failure) : column.SetValue(element, result.value);
 }
 

@@ -14,6 +14,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <limits>
 #include <string_view>
 #include <vector>
 
@@ -25,11 +26,18 @@ using RecalculationProgress = std::function<void(std::size_t computed)>;
 /// The properties of a building model: a column for each property, a row for each element. The values of a property are
 /// inputs, or its formula computes them from other properties of the same element.
 ///
+/// A change that throws, which is `std::bad_alloc`, has changed nothing.
+///
 /// Changes only note what has to be computed; `Recalculate` computes it, and until then cells show what was computed
 /// before. One thread changes a table; any number may read it while none does. Indices that the table has not given out
 /// are refused by what changes, and what reads answers them as it answers for a cell that is not computed.
 class PropertyTable final : public QX::IExpressionReferenceResolver {
  public:
+  /// How many units a text may have that a formula, or a function within it, computes. A longer one fails, so that
+  /// formulas which multiply texts do not use up the memory.
+  static constexpr unsigned int LongestText = 1U << 20U;
+  static constexpr ElementIndex MaximumElementCount = std::numeric_limits<ElementIndex>::max() - 1;
+
   explicit PropertyTable(EvaluationSettings settings = {}) : settings_(std::move(settings)) {}
   PropertyTable(const PropertyTable&) = delete;
   PropertyTable& operator=(const PropertyTable&) = delete;
@@ -39,7 +47,7 @@ class PropertyTable final : public QX::IExpressionReferenceResolver {
   TW::Optional<PropertyIndex> Define(PropertyDefinition definition);
   /// Gives false when the name is empty or taken within the group. No formula changes: they name properties by GUID.
   bool Rename(PropertyIndex property, const TW::UniString& name, const TW::UniString& group);
-  /// Adds elements and gives the first. There can be 2^32 - 2 of them.
+  /// Adds elements and gives the first. There can be `MaximumElementCount` of them; more throw `std::bad_alloc`.
   ElementIndex AddElements(ElementIndex count);
 
   /// Makes the values of a property those of a formula, typed in the given separators, in which properties are named
@@ -59,8 +67,10 @@ class PropertyTable final : public QX::IExpressionReferenceResolver {
   void SetSettings(EvaluationSettings settings);
 
   /// Computes the cells that depend on what has changed, and no others, each after those that it depends on. Gives
-  /// their number. Nothing that a formula does is thrown. `progress` is told how many there were so far, after each
-  /// column and each single cell; it must not change the table.
+  /// their number. Nothing that a formula does is thrown: one that finds too little memory fails, and is computed again
+  /// the next time. `progress` is told how many there were so far, after each column and each single cell; it must not
+  /// change the table. Throws what `progress` throws, and `std::bad_alloc` when the cells themselves find no memory;
+  /// then the next time computes them all.
   std::size_t Recalculate(const RecalculationProgress& progress = {});
 
   const PropertyCatalog& GetCatalog() const { return catalog_; }
@@ -91,6 +101,7 @@ class PropertyTable final : public QX::IExpressionReferenceResolver {
   }
   FormulaError MakeCycleError(std::vector<PropertyIndex> cycle, TW::Range<unsigned int> range) const;
   void FillInputs(PropertyIndex property, ElementIndex first);
+  void MarkFormulas() noexcept;
   void MarkDependents(PropertyIndex property);
   void MarkDependents(PropertyIndex property, ElementIndex element);
   void Compute(const PendingCells::Cell& cell, std::size_t& count);

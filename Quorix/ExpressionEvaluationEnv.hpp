@@ -7,6 +7,8 @@
 #include "TW/Guid.hpp"
 #include "TW/HashSet.hpp"
 
+#include <limits>
+
 namespace QX {
 
 /// Whether a property can be evaluated. The two reasons against it are the host's own; the library passes them on.
@@ -17,7 +19,8 @@ enum class EvaluableStatus {
 };
 
 /// What evaluation asks of the host. The library holds it for the duration of one call only and may ask from any thread
-/// that evaluates.
+/// that evaluates. What an operation throws, whatever it is, ends the evaluation and reaches its caller unchanged, but
+/// for `GetPropertyValue`; the formula stays as it was.
 class QX_EXPORT IExpressionEvaluationEnv {
  public:
   virtual ~IExpressionEvaluationEnv() = default;
@@ -30,9 +33,13 @@ class QX_EXPORT IExpressionEvaluationEnv {
   virtual const IEvaluationLocaleSettings& GetLocaleSettings() const = 0;
   /// Whether logical functions evaluate every argument, so that undefined values and errors anywhere come through.
   virtual bool IsUserUndefinedPropagationEnabled() const = 0;
+  /// How many units a text may have that a function makes; a longer one throws `ExpressionTextTooLongException`. A host
+  /// that says nothing has no limit but that of texts.
+  virtual unsigned int GetLongestText() const { return std::numeric_limits<unsigned int>::max(); }
 };
 
-/// The host's graph of properties, for the search for cycles.
+/// The host's graph of properties, for the search for cycles. What it throws ends the search and reaches its caller;
+/// the path stays as it was.
 class QX_EXPORT IExpressionReferenceResolver {
  public:
   virtual ~IExpressionReferenceResolver() = default;

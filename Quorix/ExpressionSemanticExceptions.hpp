@@ -38,6 +38,14 @@ class QX_EXPORT ExpressionInternalErrorException : public ExpressionSemanticExce
   short GetResIdx() const override { return 1; }
 };
 
+/// A function would make a longer text than the host allows. Under the name of its base, for a formula that is right
+/// elsewhere may fail so here.
+class QX_EXPORT ExpressionTextTooLongException final : public ExpressionInternalErrorException {
+ public:
+  using ExpressionInternalErrorException::ExpressionInternalErrorException;
+  TW::UniString GetName() const override { return ExpressionInternalErrorException(GetSource()).GetName(); }
+};
+
 /// The arguments do not go together.
 class QX_EXPORT ExpressionInvalidArgumentListException : public ExpressionSemanticException {
  public:

@@ -10,7 +10,8 @@
 
 namespace QX {
 
-/// Gives the formats in which a host shows quantities, and shows them.
+/// Gives the formats in which a host shows quantities, and shows them. What a host's converter or format throws ends
+/// the evaluation and reaches its caller unchanged.
 class QX_EXPORT IExpressionUnitConverter {
  public:
   virtual ~IExpressionUnitConverter() = default;

@@ -5,7 +5,8 @@
 
 namespace QX {
 
-/// Says which property takes the place of another, when formulas are carried from one model into another.
+/// Says which property takes the place of another, when formulas are carried from one model into another. What it
+/// throws reaches the caller; then the references before the one at fault are replaced and those after it are not.
 class QX_EXPORT IGuidMapper {
  public:
   virtual ~IGuidMapper() = default;

@@ -38,7 +38,7 @@ foreach(name IN ITEMS quorix quorix-host)
 endforeach()
 
 install(FILES LICENSE CHANGELOG.md README.md DESTINATION ${doc} COMPONENT development)
-install(FILES Docs/Language.md Docs/Functions.md Docs/Persistence.md DESTINATION ${doc}/Docs COMPONENT development)
+install(FILES Docs/Language.md Docs/Functions.md Docs/Limits.md Docs/Persistence.md DESTINATION ${doc}/Docs COMPONENT development)
 
 if(QX_COMMAND)
   # The installed tree may be moved.

@@ -1,6 +1,7 @@
 #include "Host/Files/FileProblems.hpp"
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 namespace Host {
@@ -12,8 +13,9 @@ void FileProblems::Add(FileProblem problem) {
 }
 
 void FileProblems::SortByPlace() {
-  std::ranges::stable_sort(list_, {},
-                           [](const FileProblem& problem) { return std::pair(problem.line, problem.column); });
+  std::ranges::sort(list_, {}, [](const FileProblem& problem) {
+    return std::tuple(problem.line, problem.column, problem.message.GetView());
+  });
 }
 
 }  // namespace Host

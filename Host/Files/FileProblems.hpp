@@ -23,7 +23,8 @@ class FileProblems {
   static constexpr std::size_t MaximumCount = 100;
 
   void Add(FileProblem problem);
-  /// Puts what is kept in the order of the file; what has no place comes first.
+  /// Puts what is kept in the order of the file, problems of one place by their messages; what has no place comes
+  /// first.
   void SortByPlace();
   bool HasFatal() const { return hasFatal_; }
   const std::vector<FileProblem>& GetList() const { return list_; }

@@ -1,20 +1,31 @@
 #include "Host/Files/OutputFile.hpp"
 
+#include <atomic>
+#include <cstdio>
 #include <filesystem>
 #include <system_error>
 #include <unistd.h>
 #include <utility>
 
 namespace Host {
+namespace {
+
+// Another for every file of every process.
+std::string MakePartPath(const std::string& path) {
+  static constinit std::atomic<unsigned int> count{0};
+  return path + ".part" + std::to_string(getpid()) + "-" + std::to_string(++count);
+}
+
+}  // namespace
 
 OutputFile::OutputFile(std::string path)
-    : path_(std::move(path)), partPath_(path_ + ".part" + std::to_string(getpid())), channel_(partPath_) {}
+    : path_(std::move(path)), partPath_(MakePartPath(path_)), channel_(partPath_) {}
 
 OutputFile::~OutputFile() {
   if (finished_) return;
   channel_.Close();
-  std::error_code error;
-  std::filesystem::remove(partPath_, error);
+  // Not by way of a path object, which could lack memory.
+  static_cast<void>(std::remove(partPath_.c_str()));
 }
 
 TW::ErrCode OutputFile::Finish() {

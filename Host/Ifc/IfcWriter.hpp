@@ -18,7 +18,8 @@ struct IfcAddedProperty {
   IfcValue value;  ///< in base units; one of no kind is left out, and one that is undefined has no value in the file
 };
 
-/// Gives the properties that an element gets. Asked once for each element, in order.
+/// Gives the properties that an element gets. Asked once for each element, in order. What it throws passes through, and
+/// no file is written.
 using IfcPropertySource = std::function<std::vector<IfcAddedProperty>(IfcModel::Element element)>;
 
 /// Writes a copy of a model in which elements have more properties, one property set for each name of a set. Values are

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <memory>
+#include <new>
 
 namespace Host {
 namespace {
@@ -31,6 +32,7 @@ Page MakePage(std::size_t number) {
   name[sizeof(name) - 2] = static_cast<char>('1' + number);
   UErrorCode status = U_ZERO_ERROR;
   const std::unique_ptr<UConverter, Closer> converter(ucnv_open(name, &status));
+  if (status == U_MEMORY_ALLOCATION_ERROR) throw std::bad_alloc();
   if (U_FAILURE(status)) return page;
   for (std::size_t i = 0; i < PageSize; ++i) {
     const char byte = static_cast<char>(i + PageSize);

@@ -26,6 +26,7 @@ class Classes {
   // For each element whether the property applies to it.
   std::vector<bool> FindApplicable(const std::vector<TW::UniString>& patterns) const {
     std::vector<bool> ofClasses;
+    ofClasses.reserve(names_.size());
     for (const TW::UniString& name : names_) ofClasses.push_back(MatchesClass(patterns, name.GetView()));
     std::vector<bool> applicable;
     applicable.reserve(ofElements_.size());
@@ -62,7 +63,7 @@ void FillFromSource(PropertyTable& table, const Rules& rules, const ElementSourc
   for (PropertyIndex property = 0; property < rules.properties.size(); ++property) {
     const PropertyRule& rule = rules.properties[property];
     if (!rule.classPatterns.empty()) SetApplicable(table, property, classes.FindApplicable(rule.classPatterns));
-    if (!table.HasFormula(property)) ReadInputs(table, property, rule, source);
+    if (!rule.formula) ReadInputs(table, property, rule, source);
   }
 }
 

@@ -10,7 +10,8 @@ namespace Host {
 /// the properties of the rules, in their order and nothing else.
 ///
 /// A property that does not apply to the class of an element is absent there. An input is user undefined where the
-/// element has none of its sources, and has failed where the source holds something of another kind.
+/// element has none of its sources, and has failed where the source holds something of another kind. A property whose
+/// formula was refused gets no values.
 void FillFromSource(PropertyTable& table, const Rules& rules, const ElementSource& source);
 
 }  // namespace Host

@@ -3,7 +3,7 @@
 #include "Host/Explanation.hpp"
 
 #include <algorithm>
-#include <numeric>
+#include <tuple>
 #include <utility>
 
 namespace Host {
@@ -68,11 +68,12 @@ FailureGroups::Number FailureGroups::GetGroup(PropertyIndex property, ElementInd
 void FailureGroups::Sort() {
   TW::HashTable<PropertyIndex, std::size_t> places;
   for (const PropertyIndex property : scope_.properties) places.Add(property, places.GetSize());
+  // No element has two of them for one property.
   const auto getPlace = [&](const FailureGroup& group) {
     const std::size_t* place = places.Find(group.key.property);
-    return std::pair(place != nullptr ? *place : places.GetSize(), group.key.property);
+    return std::tuple(place != nullptr ? *place : places.GetSize(), group.key.property, group.examples.front());
   };
-  std::ranges::stable_sort(groups_, {}, getPlace);
+  std::ranges::sort(groups_, {}, getPlace);
   for (std::size_t i = 0; i < groups_.size(); ++i) numbers_.Put(groups_[i].key, i + 1);
   ofElement_.Clear();
   consequences_.Clear();

@@ -1,7 +1,7 @@
 #include "Host/Report/GraphLayout.hpp"
 
 #include <algorithm>
-#include <iterator>
+#include <tuple>
 #include <utility>
 
 namespace Host {
@@ -109,11 +109,12 @@ void GraphLayout::Stack(const std::vector<Item>& layer) {
 }
 
 void GraphLayout::Order(std::vector<Item>& layer, bool byLeft) {
-  std::vector<std::pair<double, Item>> targets;
+  // Items of one target keep their order.
+  std::vector<std::tuple<double, std::size_t, Item>> targets;
   targets.reserve(layer.size());
-  for (const Item item : layer) targets.push_back({FindTarget(item, byLeft, !byLeft), item});
-  std::ranges::stable_sort(targets, {}, &std::pair<double, Item>::first);
-  std::ranges::transform(targets, layer.begin(), &std::pair<double, Item>::second);
+  for (const Item item : layer) targets.push_back({FindTarget(item, byLeft, !byLeft), targets.size(), item});
+  std::ranges::sort(targets);
+  for (std::size_t i = 0; i < layer.size(); ++i) layer[i] = std::get<Item>(targets[i]);
   Stack(layer);
 }
 

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <limits>
 #include <string>
+#include <tuple>
 #include <utility>
 
 namespace Host {
@@ -60,7 +61,10 @@ class Counter {
       }
       summary_.errors[places.Get(kind)].count += counts_[i];
     }
-    std::ranges::stable_sort(summary_.errors, std::ranges::greater(), &SummaryError::count);
+    std::ranges::sort(summary_.errors, [](const SummaryError& left, const SummaryError& right) {
+      if (left.count != right.count) return left.count > right.count;
+      return std::tie(left.name, left.message) < std::tie(right.name, right.message);
+    });
   }
 
   const ReportScope& scope_;

@@ -18,7 +18,8 @@ namespace QX {
 
 class ExpressionNode;
 
-/// Takes the pieces of a formula's text, in order, each with the node that it comes from.
+/// Takes the pieces of a formula's text, in order, each with the node that it comes from. What it throws passes
+/// through, as does what a collector of references or a visitor throws; the nodes stay as they were.
 class QX_EXPORT IExpressionStringBuilder {
  public:
   virtual ~IExpressionStringBuilder() = default;

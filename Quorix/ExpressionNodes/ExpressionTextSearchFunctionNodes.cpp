@@ -27,6 +27,17 @@ TW::UniString PartOf(const TW::UniString& text, const TW::UniString& separator, 
   return end < 0 ? TextFrom(text, begin) : text.Substring(begin, static_cast<unsigned int>(end) - begin);
 }
 
+// Where there is a limit, the occurrences are counted first, since they may multiply the text by its own length.
+TW::UniString ReplaceAll(const FunctionArgumentReader& reader, const TW::UniString& text, const TW::UniString& oldText,
+                         const TW::UniString& newText) {
+  if (reader.HasLongestText()) {
+    std::uint64_t length = text.GetLength();
+    text.Find(oldText, [&](unsigned int) { length += std::uint64_t{newText.GetLength()} - oldText.GetLength(); });
+    reader.RequireRoomFor(length);
+  }
+  return text.ReplaceAll(oldText, newText);
+}
+
 // The two texts of a search, in the form in which they are compared.
 struct Search {
   TW::UniString searched;
@@ -133,7 +144,7 @@ ExpressionValue ExpressionReplaceFunctionNode::EvaluateInternal(const IExpressio
   const TW::UniString newText = reader.ReadText();
   if (!reader.AllDefined()) return ExpressionValue::FromString(Undefined);
   if (std::uint64_t{start} + count <= text.GetLength()) text.SetSubstring(start, count, newText);
-  return ExpressionValue::FromString(std::move(text));
+  return ExpressionValue::FromString(reader.Checked(std::move(text)));
 }
 
 TW::ClassInfo ExpressionSubstituteFunctionNode::classInfo = MakeClassInfo();
@@ -147,10 +158,10 @@ ExpressionValue ExpressionSubstituteFunctionNode::EvaluateInternal(const IExpres
   const bool onlyOne = reader.HasMore();
   const unsigned int number = onlyOne ? reader.ReadPosition() : 1;
   if (!reader.AllDefined()) return ExpressionValue::FromString(Undefined);
-  if (!onlyOne) return ExpressionValue::FromString(text.ReplaceAll(oldText, newText));
+  if (!onlyOne) return ExpressionValue::FromString(ReplaceAll(reader, text, oldText, newText));
   const int at = FindIthOccurrencePos(text, oldText, number - 1);
   if (at >= 0) text.SetSubstring(static_cast<unsigned int>(at), oldText.GetLength(), newText);
-  return ExpressionValue::FromString(std::move(text));
+  return ExpressionValue::FromString(reader.Checked(std::move(text)));
 }
 
 }  // namespace QX

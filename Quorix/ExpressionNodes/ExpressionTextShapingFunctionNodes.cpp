@@ -25,14 +25,21 @@ TW::UniString MakeTextWithRoomFor(std::uint64_t length) {
 
 TW::Array<TW::UniString> ReadTexts(FunctionArgumentReader& reader) {
   TW::Array<TW::UniString> texts;
-  while (reader.HasMore()) texts.push_back(reader.ReadText());
+  std::uint64_t length = 0;
+  while (reader.HasMore()) {
+    texts.push_back(reader.ReadText());
+    length += texts.back().GetLength();
+    reader.RequireRoomFor(length);
+  }
   return texts;
 }
 
-TW::UniString Join(const TW::Array<TW::UniString>& texts, std::u16string_view delimiter) {
+TW::UniString Join(const FunctionArgumentReader& reader, const TW::Array<TW::UniString>& texts,
+                   std::u16string_view delimiter) {
   if (texts.empty()) return {};
   std::uint64_t length = std::uint64_t{delimiter.size()} * (texts.size() - 1);
   for (const TW::UniString& text : texts) length += text.GetLength();
+  reader.RequireRoomFor(length);
   TW::UniString joined = MakeTextWithRoomFor(length);
   for (const TW::UniString& text : texts) {
     if (&text != &texts.front()) joined.Append(delimiter);
@@ -52,7 +59,8 @@ TW::UniString CollapseWhiteSpace(std::u16string_view text) {
   return collapsed;
 }
 
-TW::UniString Repeat(std::u16string_view text, unsigned int count) {
+TW::UniString Repeat(const FunctionArgumentReader& reader, std::u16string_view text, unsigned int count) {
+  reader.RequireRoomFor(std::uint64_t{text.size()} * count);
   TW::UniString repeated = MakeTextWithRoomFor(std::uint64_t{text.size()} * count);
   if (text.empty()) return repeated;
   for (unsigned int i = 0; i < count; ++i) repeated.Append(text);
@@ -76,7 +84,7 @@ ExpressionValue ExpressionLowerFunctionNode::EvaluateInternal(const IExpressionE
                                                               const Arguments& arguments) const {
   FunctionArgumentReader reader(env, arguments, this);
   const TW::UniString text = reader.ReadText();
-  return reader.AllDefined() ? ExpressionValue::FromString(text.ToLowerCase()) : UndefinedText();
+  return reader.AllDefined() ? ExpressionValue::FromString(reader.Checked(text.ToLowerCase())) : UndefinedText();
 }
 
 TW::ClassInfo ExpressionUpperFunctionNode::classInfo = MakeClassInfo();
@@ -85,7 +93,7 @@ ExpressionValue ExpressionUpperFunctionNode::EvaluateInternal(const IExpressionE
                                                               const Arguments& arguments) const {
   FunctionArgumentReader reader(env, arguments, this);
   const TW::UniString text = reader.ReadText();
-  return reader.AllDefined() ? ExpressionValue::FromString(text.ToUpperCase()) : UndefinedText();
+  return reader.AllDefined() ? ExpressionValue::FromString(reader.Checked(text.ToUpperCase())) : UndefinedText();
 }
 
 TW::ClassInfo ExpressionConcatenationFunctionNode::classInfo = MakeClassInfo();
@@ -94,7 +102,7 @@ ExpressionValue ExpressionConcatenationFunctionNode::EvaluateInternal(const IExp
                                                                       const Arguments& arguments) const {
   FunctionArgumentReader reader(env, arguments, this);
   const TW::Array<TW::UniString> texts = ReadTexts(reader);
-  return reader.AllDefined() ? ExpressionValue::FromString(Join(texts, {})) : UndefinedText();
+  return reader.AllDefined() ? ExpressionValue::FromString(Join(reader, texts, {})) : UndefinedText();
 }
 
 TW::ClassInfo ExpressionTextJoinFunctionNode::classInfo = MakeClassInfo();
@@ -107,7 +115,7 @@ ExpressionValue ExpressionTextJoinFunctionNode::EvaluateInternal(const IExpressi
   TW::Array<TW::UniString> texts = ReadTexts(reader);
   if (!reader.AllDefined()) return UndefinedText();
   if (ignoreEmpty) texts.erase(std::remove(texts.begin(), texts.end(), TW::UniString()), texts.end());
-  return ExpressionValue::FromString(Join(texts, delimiter));
+  return ExpressionValue::FromString(Join(reader, texts, delimiter));
 }
 
 TW::ClassInfo ExpressionLeftFunctionNode::classInfo = MakeClassInfo();
@@ -149,7 +157,7 @@ ExpressionValue ExpressionRepeatFunctionNode::EvaluateInternal(const IExpression
   FunctionArgumentReader reader(env, arguments, this);
   const TW::UniString text = reader.ReadText();
   const unsigned int count = reader.ReadCount();
-  return reader.AllDefined() ? ExpressionValue::FromString(Repeat(text, count)) : UndefinedText();
+  return reader.AllDefined() ? ExpressionValue::FromString(Repeat(reader, text, count)) : UndefinedText();
 }
 
 TW::ClassInfo ExpressionLenFunctionNode::classInfo = MakeClassInfo();

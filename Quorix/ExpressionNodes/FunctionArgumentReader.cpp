@@ -1,6 +1,10 @@
 #include "Quorix/ExpressionNodes/FunctionArgumentReader.hpp"
 
 #include "Quorix/ExpressionNodes/ExpressionNodeOperations.hpp"
+#include "Quorix/ExpressionSemanticExceptions.hpp"
+
+#include <limits>
+#include <utility>
 
 namespace QX {
 
@@ -23,5 +27,18 @@ bool FunctionArgumentReader::ReadBool() { return Read(&GetBooleanValueFromNode, 
 unsigned int FunctionArgumentReader::ReadCount() { return Read(&GetZeroOrPositiveWholeNumberFromNode, 0U); }
 
 unsigned int FunctionArgumentReader::ReadPosition() { return Read(&GetPositiveWholeNumberFromNode, 1U); }
+
+bool FunctionArgumentReader::HasLongestText() const {
+  return env_.GetLongestText() < std::numeric_limits<unsigned int>::max();
+}
+
+void FunctionArgumentReader::RequireRoomFor(std::uint64_t length) const {
+  if (HasLongestText() && length > env_.GetLongestText()) throw ExpressionTextTooLongException(source_);
+}
+
+TW::UniString FunctionArgumentReader::Checked(TW::UniString&& text) const {
+  RequireRoomFor(text.GetLength());
+  return std::move(text);
+}
 
 }  // namespace QX

@@ -3,6 +3,8 @@
 #include "Quorix/ExpressionNodes/ExpressionFunctionNode.hpp"
 #include "TW/UniString.hpp"
 
+#include <cstdint>
+
 namespace QX {
 
 /// Reads the arguments of one call from first to last, and remembers whether all were defined: functions that take
@@ -25,6 +27,13 @@ class FunctionArgumentReader {
   bool ReadBool();
   unsigned int ReadCount();     ///< a whole number of 0 or more
   unsigned int ReadPosition();  ///< a whole number of 1 or more
+
+  /// Whether the host sets a limit to the lengths of texts.
+  bool HasLongestText() const;
+  /// Throws `ExpressionTextTooLongException` for a text that is longer than the host allows.
+  void RequireRoomFor(std::uint64_t length) const;
+  /// The text, unless it is too long.
+  TW::UniString Checked(TW::UniString&& text) const;
 
  private:
   template <class Value>

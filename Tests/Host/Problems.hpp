@@ -3,9 +3,9 @@
 #include "Host/Files/FileProblems.hpp"
 #include "Resources/Language.hpp"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 

@@ -55,10 +55,19 @@ ErrCode OChannel::SetStatus(ErrCode status) {
 
 ErrCode OChannel::WriteBytes(const void* bytes, std::size_t count) {
   if (status_ != NoErr) return status_;
-  if (openFrames_ == 0) return SetStatus(WriteRaw(bytes, count));
+  if (openFrames_ == 0) return Deliver(bytes, count);
   const auto* first = static_cast<const std::byte*>(bytes);
   framed_.insert(framed_.end(), first, first + count);
   return NoErr;
+}
+
+ErrCode OChannel::Deliver(const void* bytes, std::size_t count) {
+  try {
+    return SetStatus(WriteRaw(bytes, count));
+  } catch (...) {
+    SetStatus(ErrWriteFailed);
+    throw;
+  }
 }
 
 ErrCode OChannel::WriteBool(bool value) { return WriteNumber(*this, static_cast<std::uint8_t>(value ? 1 : 0)); }
@@ -110,7 +119,7 @@ ErrCode OChannel::CloseFrame(std::size_t lengthPosition) {
   }
   if (openFrames_ == 0) {
     const std::vector<std::byte> whole = std::exchange(framed_, {});
-    if (status_ == NoErr) SetStatus(WriteRaw(whole.data(), whole.size()));
+    if (status_ == NoErr) Deliver(whole.data(), whole.size());
   }
   return status_;
 }
@@ -123,7 +132,12 @@ ErrCode IChannel::SetStatus(ErrCode status) {
 ErrCode IChannel::ReadBytes(void* bytes, std::size_t count) {
   if (status_ != NoErr) return status_;
   if (count > limit_ - position_) return SetStatus(ErrFrameBounds);
-  if (SetStatus(ReadRaw(bytes, count)) == NoErr) position_ += count;
+  try {
+    if (SetStatus(ReadRaw(bytes, count)) == NoErr) position_ += count;
+  } catch (...) {
+    SetStatus(ErrReadFailed);
+    throw;
+  }
   return status_;
 }
 

@@ -12,8 +12,9 @@
 /// Binary streams. Numbers are stored in little-endian order, a bool as one byte, a text as the count of its units
 /// (32 bits) and the units, a GUID as its 16 bytes.
 ///
-/// The first failure sticks: every later operation on the channel does nothing and gives the same code. A channel
-/// belongs to one thread at a time.
+/// The first failure sticks: every later operation on the channel does nothing and gives the same code. What a derived
+/// class throws passes through, and sticks as `ErrWriteFailed` or `ErrReadFailed`. A channel belongs to one thread at a
+/// time.
 
 namespace TW {
 
@@ -49,6 +50,7 @@ class TW_EXPORT OChannel {
   /// Writes the head of a frame and gives the place of its length.
   std::size_t OpenFrame(const Guid& classGuid, std::uint16_t version);
   ErrCode CloseFrame(std::size_t lengthPosition);
+  ErrCode Deliver(const void* bytes, std::size_t count);
 
   ErrCode status_ = NoErr;
   unsigned int openFrames_ = 0;

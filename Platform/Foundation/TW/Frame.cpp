@@ -9,6 +9,8 @@ OutputFrame::OutputFrame(OChannel& channel, const ClassInfo& info) : channel_(&c
 OutputFrame::~OutputFrame() {
   if (channel_ == nullptr) return;
   OChannel& channel = *channel_;
+  // What an exception has cut short is no frame.
+  if (std::uncaught_exceptions() > exceptions_) channel.SetStatus(ErrWriteFailed);
   try {
     Close();
   } catch (...) {
@@ -48,7 +50,11 @@ ErrCode InputFrame::Close() {
   if (channel_ == nullptr) return ErrClosed;
   IChannel& channel = *channel_;
   channel_ = nullptr;
-  if (channel.GetInputStatus() == NoErr) channel.Skip(channel.limit_ - channel.position_);
+  try {
+    if (channel.GetInputStatus() == NoErr) channel.Skip(channel.limit_ - channel.position_);
+  } catch (...) {
+    channel.SetStatus(ErrReadFailed);
+  }
   channel.limit_ = outerLimit_;
   return channel.GetInputStatus();
 }

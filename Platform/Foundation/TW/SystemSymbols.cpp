@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
+#include <new>
 #include <string>
 #include <string_view>
 
@@ -39,6 +40,7 @@ std::string GetBareName(const char* localeName) {
 bool IsKnownLocale(const std::string& name) {
   UErrorCode status = U_ZERO_ERROR;
   const std::unique_ptr<UResourceBundle, ResourceCloser> bundle(ures_open(nullptr, name.c_str(), &status));
+  if (status == U_MEMORY_ALLOCATION_ERROR) throw std::bad_alloc();
   return U_SUCCESS(status) && status != U_USING_DEFAULT_WARNING;
 }
 
@@ -63,6 +65,7 @@ SystemSymbols ReadSystemSymbols(const char* localeName) {
   if (name.empty() || !IsKnownLocale(name)) return SystemSymbols();
   UErrorCode status = U_ZERO_ERROR;
   const Format format(unum_open(UNUM_DECIMAL, nullptr, 0, name.c_str(), nullptr, &status));
+  if (status == U_MEMORY_ALLOCATION_ERROR) throw std::bad_alloc();
   if (U_FAILURE(status)) return SystemSymbols();
 
   SystemSymbols symbols;

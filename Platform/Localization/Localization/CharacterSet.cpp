@@ -66,6 +66,7 @@ TW::ErrCode CharacterSet::Choose(const char* name) {
   const char* listed = ucnv_getAlias(name, 0, &status);
   if (U_FAILURE(status) || listed == nullptr) return TW::ErrCharacterSet;
   Converter opened(ucnv_open(listed, &status));
+  if (status == U_MEMORY_ALLOCATION_ERROR) throw std::bad_alloc();
   ucnv_setToUCallBack(opened.get(), WriteReplacement, nullptr, nullptr, nullptr, &status);
   if (U_FAILURE(status)) return TW::ErrCharacterSet;
   const UConverterType type = ucnv_getType(opened.get());

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <fcntl.h>
+#include <new>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -51,7 +52,8 @@ TW::Optional<SealedArchive> ReadSealedArchive(std::uint64_t sealedLength, const 
 
   const auto size = static_cast<std::size_t>(length);
   HeapBytes bytes(static_cast<unsigned char*>(std::malloc(size)), &std::free);
-  if (!bytes || !read(0, bytes.get(), size) || !IsSealOf(seal, bytes.get(), size)) return {};
+  if (!bytes) throw std::bad_alloc();
+  if (!read(0, bytes.get(), size) || !IsSealOf(seal, bytes.get(), size)) return {};
   return SealedArchive{seal, std::move(bytes)};
 }
 

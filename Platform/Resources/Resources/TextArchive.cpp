@@ -8,7 +8,9 @@
 
 #include <charconv>
 #include <memory>
+#include <new>
 #include <string_view>
+#include <utility>
 
 extern "C" {
 extern const unsigned char QxBuiltInTexts[] __attribute__((visibility("hidden")));
@@ -20,10 +22,17 @@ namespace {
 
 using Bundle = std::unique_ptr<UResourceBundle, decltype(&ures_close)>;
 
+// What is missing for want of memory must not be taken for what the archive lacks.
+bool Succeeded(UErrorCode error) {
+  if (error == U_MEMORY_ALLOCATION_ERROR) throw std::bad_alloc();
+  return U_SUCCESS(error) != 0;
+}
+
 // Not `ures_open`: where the language is missing it would turn to the default language of the process.
 Bundle OpenBundle(const std::string& packageName, LanguageCode language) {
   UErrorCode error = U_ZERO_ERROR;
-  return {ures_openDirect(packageName.c_str(), language.GetTag().c_str(), &error), &ures_close};
+  Bundle bundle(ures_openDirect(packageName.c_str(), language.GetTag().c_str(), &error), &ures_close);
+  return Succeeded(error) ? std::move(bundle) : Bundle(nullptr, &ures_close);
 }
 
 // Hands the archive over to ICU.
@@ -32,7 +41,7 @@ bool Register(SealedArchive archive, const std::string& packageName) {
   udata_setAppData(packageName.c_str(), archive.bytes.get(), &error);
   // With any other outcome, also where an equal archive is known already, ICU has not taken the bytes.
   if (error == U_ZERO_ERROR) archive.bytes.release();
-  return U_SUCCESS(error) != 0;
+  return Succeeded(error);
 }
 
 std::string GetListKey(int listId) { return "L" + std::to_string(listId); }
@@ -51,9 +60,9 @@ std::vector<LanguageCode> ReadLanguages(const std::string& packageName) {
   const std::unique_ptr<UEnumeration, decltype(&uenum_close)> names(
       ures_openAvailableLocales(packageName.c_str(), &error), &uenum_close);
   std::vector<LanguageCode> languages;
-  while (names) {
+  while (Succeeded(error)) {
     const char* name = uenum_next(names.get(), nullptr, &error);
-    if (name == nullptr || U_FAILURE(error)) break;
+    if (name == nullptr || !Succeeded(error)) break;
     const LanguageCode language = LanguageCode::FromTag(name);
     if (!language.IsRoot()) languages.push_back(language);
   }
@@ -92,7 +101,7 @@ std::vector<int> TextArchive::GetListIds() const {
   for (int i = 0; i < count; ++i) {
     UErrorCode error = U_ZERO_ERROR;
     const Bundle list(ures_getByIndex(root.get(), i, nullptr, &error), &ures_close);
-    const int listId = list ? ReadListKey(ures_getKey(list.get())) : 0;
+    const int listId = Succeeded(error) ? ReadListKey(ures_getKey(list.get())) : 0;
     if (listId > 0) listIds.push_back(listId);
   }
   return listIds;
@@ -103,7 +112,7 @@ void TextArchive::FillList(LanguageCode language, int listId, List& texts) const
   if (!bundle) return;
   UErrorCode error = U_ZERO_ERROR;
   const Bundle list(ures_getByKey(bundle.get(), GetListKey(listId).c_str(), nullptr, &error), &ures_close);
-  if (U_FAILURE(error) || ures_getType(list.get()) != URES_ARRAY) return;
+  if (!Succeeded(error) || ures_getType(list.get()) != URES_ARRAY) return;
   const auto count = static_cast<std::size_t>(ures_getSize(list.get()));
   if (texts.size() < count) texts.resize(count);
   for (std::size_t i = 0; i < count; ++i) {
@@ -111,7 +120,7 @@ void TextArchive::FillList(LanguageCode language, int listId, List& texts) const
     error = U_ZERO_ERROR;
     std::int32_t length = 0;
     const char16_t* text = ures_getStringByIndex(list.get(), static_cast<std::int32_t>(i), &length, &error);
-    if (U_SUCCESS(error)) texts[i] = TW::UniString(std::u16string_view(text, static_cast<std::size_t>(length)));
+    if (Succeeded(error)) texts[i] = TW::UniString(std::u16string_view(text, static_cast<std::size_t>(length)));
   }
 }
 

@@ -87,7 +87,7 @@ TEST(CellReport, TellsTheReasonInASentence) {
       {none, 0, "The formula of None itself gives an undefined value."},
       {house.count, 2,
        "Count has no value. The source holds no whole number. Change the value there or the kind of the property."},
-      {large, 0, "Large has no value. The result is too large for a number. Change the values."},
+      {large, 0, "Large has no value. The result is too large for a number or too long for a text. Change the values."},
       {house.label, 2, "Label does not apply to the element."},
       {unset, 0, "Unset has no value yet."},
       {uses, 2, "Uses has no value because Label has none. Label does not apply to the element."},

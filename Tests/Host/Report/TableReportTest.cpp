@@ -143,7 +143,7 @@ TEST_F(TableReport, GroupsFailuresByTheirReason) {
     [Empty]
     ^^^^^^^
     5 elements: 2, 3, 4, …
-#5 Large: The result is too large for a number. Change the values.
+#5 Large: The result is too large for a number or too long for a text. Change the values.
     1e300 * 1e300
     6 elements: 1, 2, 3, …
 )");

@@ -1,3 +1,5 @@
+#include "Host/Model/CsvElements.hpp"
+#include "Host/Model/ModelTable.hpp"
 #include "Host/Problems.hpp"
 #include "Host/Rules/RulesDefinition.hpp"
 
@@ -68,6 +70,21 @@ TEST(RulesDefinition, LooksAtTheFormulasOfABrokenFile) {
   Host::PropertyTable other;
   DefineProperties(separators, other, none);
   EXPECT_EQ(none.GetCount(), 0U) << "with other separators the formula may be right";
+}
+
+TEST(RulesDefinition, TakesTheExample) {
+  const RulesFile file = RulesFile::Read(QX_EXAMPLE_MODEL "/takeoff.json");
+  Host::FileProblems problems = file.GetProblems();
+  Host::PropertyTable table;
+  DefineProperties(file, table, problems);
+  ExpectProblems(problems, {}, "the rules");
+
+  const Host::CsvFile csv = Host::CsvFile::Read(QX_EXAMPLE_MODEL "/house.csv");
+  ExpectProblems(csv.GetProblems(), {}, "the table");
+  Host::FillFromSource(table, file.GetRules(), Host::CsvElements(csv, file.GetRules().locale));
+  table.Recalculate();
+  const Host::PropertyIndex volume = table.GetCatalog().FindByName(u"Net volume")[0];
+  EXPECT_NEAR(table.GetValue(volume, 0).GetIntOrNumVariantValue(), 18.33 * 0.365, 1e-9);
 }
 
 TEST(RulesDefinition, SpeaksGerman) {
