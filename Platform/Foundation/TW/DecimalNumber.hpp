@@ -46,8 +46,8 @@ enum class NumberReading {
   TooLarge,  ///< beyond the largest finite double
 };
 
-/// Reads digits with at most one full stop among them (`5`, `5.`, `.5`) and an optional exponent, all in ASCII, without
-/// sign or blanks. What is too small for a double is 0. Writes `value` only when the number was read.
+/// Reads digits with at most one full stop among them, before, between or behind them, and an optional exponent, all
+/// in ASCII, without sign or blanks. What is too small for a double is 0. Writes `value` only when the number was read.
 TW_EXPORT NumberReading ReadDecimalNumber(std::string_view text, double& value);
 
 }  // namespace TW

@@ -43,6 +43,7 @@ class TW_EXPORT Guid {
 
 }  // namespace TW
 
+/// @cond
 template <>
 struct std::hash<TW::Guid> {
   std::size_t operator()(const TW::Guid& guid) const noexcept {
@@ -52,3 +53,4 @@ struct std::hash<TW::Guid> {
     return static_cast<std::size_t>(mixed ^ (mixed >> 32));
   }
 };
+/// @endcond

@@ -113,9 +113,11 @@ class TW_EXPORT UniString {
 
 }  // namespace TW
 
+/// @cond
 template <>
 struct std::hash<TW::UniString> {
   std::size_t operator()(const TW::UniString& text) const noexcept {
     return std::hash<std::u16string_view>()(text.GetView());
   }
 };
+/// @endcond
