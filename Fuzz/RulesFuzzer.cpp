@@ -46,7 +46,8 @@ void CheckTable(const RulesFile& file) {
   Host::FileProblems problems;
   DefineProperties(file, table, problems);
   CheckProblems(problems, file.GetText());
-  if (file.GetProblems().HasFatal()) return;
+  // A formula that cannot be taken leaves a property without values.
+  if (file.GetProblems().HasFatal() || problems.HasFatal()) return;
   Require(table.GetCatalog().GetCount() == rules.properties.size(), "each rule defines a property");
   const BoundedMemory shortage;
   FillFromSource(table, rules, Host::CsvElements(model, rules.locale));

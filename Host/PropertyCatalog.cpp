@@ -62,7 +62,7 @@ TW::UniString PropertyCatalog::MakeReference(PropertyIndex property) const {
   const auto makeWithName = [&](std::u16string_view name) {
     TW::UniString reference = BracketName(name);
     const bool fits = FindByName(name).size() == 1 && !QX::IsWellFormedExpressionPropertyReference(reference, nullptr);
-    return fits ? reference : TW::UniString();
+    return fits ? std::move(reference) : TW::UniString();
   };
   TW::UniString reference = makeWithName(definition.name);
   if (reference.IsEmpty() && !definition.group.IsEmpty()) {
@@ -97,7 +97,8 @@ void PropertyCatalog::AddName(std::u16string_view name, PropertyIndex property) 
   }
 }
 
-// The entry that was added last, should a name have come to stand for the property twice.
+// The entry that was added last, should a name have come to stand for the property twice. The look-up throws nothing,
+// since the name is there. NOLINTNEXTLINE(bugprone-exception-escape)
 void PropertyCatalog::RemoveName(std::u16string_view name, PropertyIndex property) noexcept {
   Bearers& bearers = byName_.Get(name);
   bearers.erase(std::prev(std::find(bearers.rbegin(), bearers.rend(), property).base()));

@@ -27,6 +27,18 @@ class Renderer final : public IExpressionStringBuilder {
   ExpressionString string_;
 };
 
+TW::ErrCode ReadVersion1(TW::IChannel& channel, TW::Ref<ExpressionNode>& root) {
+  bool hasRoot = false;
+  if (const TW::ErrCode error = channel.ReadBool(hasRoot); error != TW::NoErr) return error;
+  TW::Ref<TW::TreeNode> tree;
+  if (hasRoot) {
+    const TW::ErrCode error = TW::TreeNode::ReadDynamic(channel, tree, EP::MaximumNestingDepth);
+    if (error != TW::NoErr) return error;
+  }
+  root = tree.CheckedCast<ExpressionNode>();
+  return TW::NoErr;
+}
+
 }  // namespace
 
 TW::ClassInfo Expression::classInfo("Expression", "{8776168B-0953-4610-8348-E71D9822BC69}", StoredVersion,
@@ -131,18 +143,6 @@ TW::ErrCode Expression::Read(TW::IChannel& channel) {
   const TW::ErrCode error = frame.Close();
   if (error == TW::NoErr) root_ = std::move(root);
   return error;
-}
-
-TW::ErrCode Expression::ReadVersion1(TW::IChannel& channel, TW::Ref<ExpressionNode>& root) {
-  bool hasRoot = false;
-  if (const TW::ErrCode error = channel.ReadBool(hasRoot); error != TW::NoErr) return error;
-  TW::Ref<TW::TreeNode> tree;
-  if (hasRoot) {
-    const TW::ErrCode error = TW::TreeNode::ReadDynamic(channel, tree, EP::MaximumNestingDepth);
-    if (error != TW::NoErr) return error;
-  }
-  root = tree.CheckedCast<ExpressionNode>();
-  return TW::NoErr;
 }
 
 Expression Expression::CreateFromIOString(const TW::UniString& text) {

@@ -79,7 +79,6 @@ class QX_EXPORT Expression : public TW::Object {
   static Expression CreateFromIOString(const TW::UniString& text);
 
  private:
-  static TW::ErrCode ReadVersion1(TW::IChannel& channel, TW::Ref<ExpressionNode>& root);
   TW::ErrCode WriteVersion1(TW::OChannel& channel) const;
 
   TW::Ref<ExpressionNode> root_;

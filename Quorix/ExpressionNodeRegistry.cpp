@@ -8,7 +8,7 @@ namespace {
 TW::HashSet<char16_t> CollectOperatorCharacters() {
   TW::HashSet<char16_t> characters;
   GetOperatorNodeRegistry().EnumerateOperators([&characters](const TW::UniString& op) {
-    for (char16_t character : op) characters.Add(character);
+    for (const char16_t character : op) characters.Add(character);
   });
   return characters;
 }

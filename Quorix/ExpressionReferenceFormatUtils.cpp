@@ -24,6 +24,7 @@ bool ContainsPropertyReferences(const TW::UniString& text) {
   return found;
 }
 
+// The interface hands the text over by value. NOLINTNEXTLINE(performance-unnecessary-value-param)
 bool IsWellFormedExpressionPropertyReference(TW::UniString text, TW::Guid* guid) {
   TW::UniString value;
   TW::Guid propertyId;

@@ -2,6 +2,8 @@
 
 #include "Quorix/QuorixResources.hpp"
 
+#include <utility>
+
 namespace QX {
 namespace {
 
@@ -54,7 +56,7 @@ short FunctionNodeRegistry::GetFunctionHelpResId(const TW::UniString& name) cons
 
 TW::UniString FunctionNodeRegistry::GetFunctionNormalizedName(const TW::UniString& name) const {
   TW::UniString normalized = NormalizeName(name);
-  return functions_.Contains(normalized) ? normalized : TW::UniString();
+  return functions_.Contains(normalized) ? std::move(normalized) : TW::UniString();
 }
 
 TW::UniString FunctionNodeRegistry::GetFunctionHelpString(const TW::UniString& name, HelpType type,

@@ -19,7 +19,7 @@ TW::UniString LogUtils::GetLogMessageForLocaleSettings(const IEvaluationLocaleSe
 
 TW::UniString LogUtils::GetLogMessageForExpressionString(const TW::UniString& text) {
   TW::UniString codes;
-  for (char16_t unit : text) {
+  for (const char16_t unit : text) {
     if (!codes.IsEmpty()) codes.Append(u',');
     codes.Append(TW::UniString::FromInteger(unit));
   }

@@ -146,6 +146,7 @@ std::vector<std::pair<std::string_view, ExpressionValue>> CommonOptions::Evaluat
     const Settings& settings) const {
   const Environment environment(settings);
   std::vector<std::pair<std::string_view, ExpressionValue>> values;
+  values.reserve(properties_.size());
   for (const auto& [name, text] : properties_) values.emplace_back(name, ReadValue(name, text, environment));
   return values;
 }

@@ -25,6 +25,7 @@ bool ModelInput::Read(const std::string& rulesPath, Progress& progress) {
   if (!ReadRules(rulesPath) || !ReadElements()) return false;
   progress.Tell(Reading);
   Host::FillFromSource(*table_, rules_->GetRules(), *source_);
+  WarnOfMissingSources();
   if (!SetProperties()) return false;
   Compute(progress);
   return true;
@@ -55,6 +56,16 @@ bool ModelInput::ReadElements() {
     source_ = std::make_unique<Host::CsvElements>(*csv_, rules_->GetRules().locale);
   }
   return diagnostics_.CheckFile(path, source_->GetProblems());
+}
+
+// A name that was mistyped would otherwise show as undefined values only.
+void ModelInput::WarnOfMissingSources() const {
+  for (const Host::PropertyRule& rule : rules_->GetRules().properties) {
+    if (rule.sources.empty() || Host::InputReader(rule, *source_).HasSources()) continue;
+    std::string names;
+    for (const TW::UniString& name : rule.sources) names += (names.empty() ? "" : ", ") + name.ToUtf8();
+    diagnostics_.Warning("No element has a source of the property " + Quote(rule.name.ToUtf8()) + ": " + names + ".");
+  }
 }
 
 bool ModelInput::SetProperties() {

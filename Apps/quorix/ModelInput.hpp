@@ -40,6 +40,7 @@ class ModelInput {
  private:
   bool ReadRules(const std::string& path);
   bool ReadElements();
+  void WarnOfMissingSources() const;
   bool SetProperties();
   bool SetProperty(Host::PropertyIndex property, std::string_view name, const QX::ExpressionValue& value);
   void Compute(Progress& progress);

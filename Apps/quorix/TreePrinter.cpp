@@ -20,7 +20,7 @@ std::string Print(TW::Range<unsigned int> range) {
 }
 
 std::string GetNodeCell(const Host::NodeFacts& facts) {
-  std::string cell(2 * std::min(facts.depth, DeepestIndentation), ' ');
+  std::string cell(2 * std::size_t{std::min(facts.depth, DeepestIndentation)}, ' ');
   if (facts.depth > DeepestIndentation) cell += "(" + std::to_string(facts.depth) + ") ";
   return cell += facts.node->GetClassInfo()->GetName();
 }
@@ -83,7 +83,7 @@ Row TreePrinter::MakeRow(const Host::NodeFacts& facts) const {
 std::string TreePrinter::GetValueCell(const Host::NodeFacts& facts) const {
   if (facts.failure) {
     const Failure failure = DescribeException(facts.failure);
-    const std::string name = failure.name.ToUtf8();
+    std::string name = failure.name.ToUtf8();
     const QX::ExpressionNode* source = failure.source;
     if (source == facts.node || source == nullptr) return name;
     return name + " at " + Print(shown_.FromOriginal(text_.GetNodeRange(source)));

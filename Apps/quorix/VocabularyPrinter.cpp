@@ -118,7 +118,8 @@ std::string MakeComplaint(const TW::UniString& word) {
   for (const TW::UniString& candidate : FindSimilarWords(word)) {
     similar += (similar.empty() ? "" : " or ") + candidate.ToUtf8();
   }
-  return similar.empty() ? complaint : complaint + " Did you mean " + similar + "?";
+  if (!similar.empty()) complaint += " Did you mean " + similar + "?";
+  return complaint;
 }
 
 }  // namespace

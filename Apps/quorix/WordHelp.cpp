@@ -21,7 +21,7 @@ std::vector<WordArgument> SplitArguments(const TW::UniString& lines) {
 }
 
 TW::UniString GetResult(const QX::ExpressionValue& value, const Environment& environment) {
-  const TW::UniString text = environment.GetDisplay().Make(value);
+  TW::UniString text = environment.GetDisplay().Make(value);
   if (!value.IsString() || value.IsUserUndefined()) return text;
   return u"\"" + text.ReplaceAll(u"\"", u"\\\"") + u"\"";
 }

@@ -36,8 +36,9 @@ class StepFileReader {
   }
 
   void ReadStatement() {
+    const std::size_t last = at_;
     at_ = SkipStepSpace(text_, at_);
-    if (at_ == text_.size()) return CutOff(at_);
+    if (at_ == text_.size()) return CutOff(at_, FindOpenComment(last));
     if (inData_ && text_[at_] == '#') return ReadInstance();
     const std::size_t start = at_;
     const std::string_view keyword = ReadKeyword();
@@ -123,16 +124,31 @@ class StepFileReader {
   bool PassStatement(std::size_t start) {
     const std::size_t end = statements_.FindEnd(at_);
     if (end == text_.size()) {
-      CutOff(start);
+      CutOff(start, start);
       return false;
     }
     at_ = end + 1;
     return true;
   }
 
-  void CutOff(std::size_t start) {
-    file_.messages_.Add(StepProblem::CutOff, start);
-    LeaveData(start);
+  // Where a comment begins that has no end, behind which nothing can be added, or the end of the text. From `at` on
+  // there are only comments and white space.
+  std::size_t FindOpenComment(std::size_t at) const {
+    while (at < text_.size()) {
+      if (IsStepSpace(text_[at])) {
+        ++at;
+      } else if (text_.find("*/", at + 2) == text_.npos) {
+        return at;
+      } else {
+        at = SkipStepComment(text_, at);
+      }
+    }
+    return at;
+  }
+
+  void CutOff(std::size_t place, std::size_t dataEnd) {
+    file_.messages_.Add(StepProblem::CutOff, place);
+    LeaveData(dataEnd);
     ended_ = true;
   }
 

@@ -16,8 +16,8 @@ bool StepIndex::Add(std::uint64_t id, std::size_t position, std::uint32_t classN
 
 std::vector<StepIndex::Place> StepIndex::Finish() {
   if (count_ == 0) return {};
-  // About as many ranges as there are groups of four instances.
-  const std::uint64_t wanted = count_ / 4 + 1;
+  // About as many ranges as there are groups of four instances, and two at least: no shift leaves one of all numbers.
+  const std::uint64_t wanted = count_ / 4 + 2;
   while ((greatest_ - smallest_) >> shift_ >= wanted) ++shift_;
   CountBuckets();
   if (ascending_) return {};

@@ -13,6 +13,8 @@ class InputReader {
  public:
   InputReader(const PropertyRule& rule, const ElementSource& elements);
 
+  /// Whether any element has one of the sources.
+  bool HasSources() const { return !sources_.empty(); }
   /// The value, invalid when the source holds something of another kind; nothing when the element has none of the
   /// sources.
   TW::Optional<QX::ExpressionValue> Read(ElementIndex element) const;

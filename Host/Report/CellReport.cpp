@@ -157,7 +157,7 @@ class Printer {
       std::rethrow_exception(facts.failure);
     } catch (const QX::ExpressionSemanticException& exception) {
       if (exception.GetSource() == facts.node) return MakeScreenText(exception.ToString(), LongestLine);
-    } catch (const std::exception&) {
+    } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch)
       // What went wrong beyond the formula, as with too little memory, is told of the whole.
     }
     return MakeScreenText(MakeText(ReportText::Failed), LongestValue);

@@ -48,7 +48,7 @@ GraphLayout::GraphLayout(std::span<const unsigned int> layers, std::span<const G
   for (const std::vector<Item>& layer : layers_) Stack(layer);
   for (int pass = 0; pass < OrderingPasses; ++pass) {
     if (pass % 2 == 0) {
-      for (auto layer = layers_.begin(); layer != layers_.end(); ++layer) Order(*layer, true);
+      for (std::vector<Item>& layer : layers_) Order(layer, true);
     } else {
       for (auto layer = layers_.rbegin(); layer != layers_.rend(); ++layer) Order(*layer, false);
     }
@@ -56,7 +56,7 @@ GraphLayout::GraphLayout(std::span<const unsigned int> layers, std::span<const G
   for (int pass = 0; pass < SettlingPasses; ++pass) {
     const bool isLast = pass + 1 == SettlingPasses;
     if (pass % 2 == 0) {
-      for (auto layer = layers_.begin(); layer != layers_.end(); ++layer) Settle(*layer, true, isLast);
+      for (std::vector<Item>& layer : layers_) Settle(layer, true, isLast);
     } else {
       for (auto layer = layers_.rbegin(); layer != layers_.rend(); ++layer) Settle(*layer, isLast, true);
     }

@@ -22,6 +22,7 @@ std::vector<PropertyIndex> CollectProperties(const ReportScope& scope) {
     reached.push_back(property);
   };
   for (const PropertyIndex property : scope.properties) reach(property);
+  // The list grows meanwhile. NOLINTNEXTLINE(modernize-loop-convert)
   for (std::size_t i = 0; i < reached.size(); ++i) {
     for (const PropertyIndex precedent : scope.table.GetGraph().GetPrecedents(reached[i])) reach(precedent);
   }

@@ -186,7 +186,7 @@ class Drawing {
     double y = top + 3;
     DrawText("name", {left.x, y += LineHeight}, box.name);
     if (!box.kind.IsEmpty()) DrawText("kind", {left.x, y += LineHeight}, box.kind);
-    if (!box.formula.IsEmpty()) DrawText("text", {left.x, y += LineHeight}, box.formula);
+    if (!box.formula.IsEmpty()) DrawText("text", {left.x, y + LineHeight}, box.formula);
     Out() += "</g>\n";
     buffer_.FlushIfFull();
   }

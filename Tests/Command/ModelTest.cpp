@@ -141,6 +141,15 @@ TEST_F(Model, SaysWhatIsWrongWithTheCall) {
   }
 }
 
+TEST_F(Model, WarnsOfWhatNoElementHas) {
+  table = Write("elements.csv", "Name,width,Height\na,1 m,2 m,3 m\n");
+  const std::vector<std::string> lines = SplitLines(Run({"--no-table"}).err);
+  ASSERT_GE(lines.size(), 2U);
+  EXPECT_EQ(lines[0].substr(0, table.size() + 13), table + ":2:11: warnin");
+  EXPECT_EQ(lines[1], "warning: No element has a source of the property 'Width': Width.");
+  EXPECT_EQ(Run({"--no-table", "--quiet"}).err, "");
+}
+
 TEST_F(Model, ReportsEveryMistakeInTheRulesAtOnce) {
   rules = Write("bad.json",
                 "{\"properties\": [\n"

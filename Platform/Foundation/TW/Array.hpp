@@ -13,6 +13,7 @@ inline constexpr std::size_t ArrayInlineCount = std::max<std::size_t>(8, 64 / si
 
 /// A growable array whose first elements live in place, so that the operands of a usual call need no heap.
 template <class T>
+// Boost declares what is inherited noexcept. NOLINTNEXTLINE(bugprone-exception-escape)
 class Array : public boost::container::small_vector<T, ArrayInlineCount<T>> {
  public:
   using boost::container::small_vector<T, ArrayInlineCount<T>>::small_vector;

@@ -18,7 +18,7 @@ bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 long long ReadExponent(std::string_view digits) {
   constexpr long long Huge = 1'000'000'000'000'000;
   long long exponent = 0;
-  for (char digit : digits) exponent = std::min(Huge, exponent * 10 + (digit - '0'));
+  for (const char digit : digits) exponent = std::min(Huge, exponent * 10 + (digit - '0'));
   return exponent;
 }
 

@@ -23,7 +23,10 @@ bool Parse(View text, Guid::Bytes& bytes) {
   if (text.size() != PlainLength) return false;
   std::size_t position = 0;
   for (std::uint8_t& byte : bytes) {
-    if (IsDashPosition(position) && text[position++] != '-') return false;
+    if (IsDashPosition(position)) {
+      if (text[position] != '-') return false;
+      ++position;
+    }
     const int high = HexValue(static_cast<unsigned int>(text[position++]));
     const int low = HexValue(static_cast<unsigned int>(text[position++]));
     if (high < 0 || low < 0) return false;
@@ -53,7 +56,7 @@ ErrCode Guid::ConvertFromString(std::u16string_view text) noexcept {
 UniString Guid::ToUniString() const {
   std::u16string text;
   text.reserve(PlainLength);
-  for (std::uint8_t byte : bytes_) {
+  for (const std::uint8_t byte : bytes_) {
     if (IsDashPosition(text.size())) text.push_back(u'-');
     text.push_back(static_cast<char16_t>(Digits[byte >> 4]));
     text.push_back(static_cast<char16_t>(Digits[byte & 15]));

@@ -49,7 +49,7 @@ struct std::hash<TW::Guid> {
   std::size_t operator()(const TW::Guid& guid) const noexcept {
     std::uint64_t halves[2];
     std::memcpy(halves, guid.GetBytes().data(), sizeof(halves));
-    std::uint64_t mixed = (halves[0] ^ (halves[1] * 0x9E3779B97F4A7C15U)) * 0xBF58476D1CE4E5B9U;
+    const std::uint64_t mixed = (halves[0] ^ (halves[1] * 0x9E3779B97F4A7C15U)) * 0xBF58476D1CE4E5B9U;
     return static_cast<std::size_t>(mixed ^ (mixed >> 32));
   }
 };

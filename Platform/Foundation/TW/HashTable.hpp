@@ -51,6 +51,7 @@ class HashTable {
   /// Adds an entry after the last, or replaces the value of a key that is there already, in its old place.
   void Put(Key key, Value value) {
     const auto [entry, added] = index_.FindOrAdd(key, std::move(key), std::move(value));
+    // Moved from only when it was added. NOLINTNEXTLINE(bugprone-use-after-move)
     if (!added) entry->value = std::move(value);
   }
 

@@ -78,7 +78,7 @@ bool ConvertNumberStringToNonUnit(const TW::UniString& text, unsigned short deci
   if (negative || units.starts_with(u'+')) units.remove_prefix(1);
 
   NumberRewriter rewriter(decimalSeparator, thousandSeparator.value_or(0));
-  for (char16_t unit : units)
+  for (const char16_t unit : units)
     if (!rewriter.Add(unit)) return false;
   double value = 0;
   if (!rewriter.Read(value)) return false;

@@ -243,7 +243,7 @@ class OrderedIndex {
   void CloseGaps() noexcept {
     std::uint32_t target = 0;
     for (std::uint32_t i = first_; i < used_; ++i) {
-      Cell& cell = cells_[i];
+      const Cell& cell = cells_[i];
       if (cell.hash == 0) continue;
       if (i != target) MoveCell(i, target);
       ++target;

@@ -71,7 +71,7 @@ SystemSymbols ReadSystemSymbols(const char* localeName) {
   SystemSymbols symbols;
   if (!ReadSymbol(format, UNUM_DECIMAL_SEPARATOR_SYMBOL, symbols.decimal)) return SystemSymbols();
   if (!ReadSymbol(format, UNUM_GROUPING_SEPARATOR_SYMBOL, symbols.digitGrouping)) return SystemSymbols();
-  symbols.listSeparator = symbols.decimal == ',' ? ';' : ',';
+  symbols.listSeparator = symbols.decimal == ',' ? u';' : u',';
   return symbols;
 }
 

@@ -17,13 +17,13 @@ constexpr UChar32 ReplacementCharacter = 0xFFFD;
 
 bool IsAscii(std::u16string_view text) {
   char16_t seen = 0;
-  for (char16_t unit : text) seen = static_cast<char16_t>(seen | unit);
+  for (const char16_t unit : text) seen = static_cast<char16_t>(seen | unit);
   return seen < 0x80;
 }
 
 bool IsAscii(std::string_view text) {
   unsigned char seen = 0;
-  for (char unit : text) seen = static_cast<unsigned char>(seen | static_cast<unsigned char>(unit));
+  for (const char unit : text) seen = static_cast<unsigned char>(seen | static_cast<unsigned char>(unit));
   return seen < 0x80;
 }
 

@@ -116,7 +116,7 @@ MD5Channel::Digest MD5Channel::GetDigest() const {
 TW::UniString MD5Channel::GetDigestText() const {
   constexpr std::u16string_view Digits = u"0123456789abcdef";
   std::u16string text;
-  for (std::uint8_t byte : GetDigest()) {
+  for (const std::uint8_t byte : GetDigest()) {
     text.push_back(Digits[byte / 16U]);
     text.push_back(Digits[byte % 16U]);
   }

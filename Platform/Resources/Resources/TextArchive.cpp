@@ -40,7 +40,7 @@ bool Register(SealedArchive archive, const std::string& packageName) {
   UErrorCode error = U_ZERO_ERROR;
   udata_setAppData(packageName.c_str(), archive.bytes.get(), &error);
   // With any other outcome, also where an equal archive is known already, ICU has not taken the bytes.
-  if (error == U_ZERO_ERROR) archive.bytes.release();
+  if (error == U_ZERO_ERROR) static_cast<void>(archive.bytes.release());
   return Succeeded(error);
 }
 

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdint>
 #include <numeric>
+#include <utility>
 
 namespace {
 
@@ -48,7 +49,7 @@ InchParts DecimalInches(double inches, const LengthStyle& style) {
 // Below 2^64, which 12 times 2^53 is.
 std::uint64_t ToInteger(const TW::UniString& digits) {
   std::uint64_t value = 0;
-  for (char16_t digit : digits) value = value * 10 + static_cast<std::uint64_t>(digit - u'0');
+  for (const char16_t digit : digits) value = value * 10 + static_cast<std::uint64_t>(digit - u'0');
   return value;
 }
 
@@ -71,7 +72,8 @@ FeetParts SplitFeet(double feet, double inches, InchSplitter split, const Length
   }
   InchParts parts = split(inches, style);
   const std::uint64_t whole = ToInteger(parts.whole.GetIntegerText());
-  return {TW::DecimalNumber(static_cast<double>(whole / InchesPerFoot)), whole % InchesPerFoot, parts};
+  const std::uint64_t wholeFeet = whole / InchesPerFoot;
+  return {TW::DecimalNumber(static_cast<double>(wholeFeet)), whole % InchesPerFoot, std::move(parts)};
 }
 
 TUDisplayText FeetAndInchesText(double meters, InchSplitter split, const LengthStyle& style) {
