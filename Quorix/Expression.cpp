@@ -59,7 +59,7 @@ void Expression::CopyFrom(const Expression& other) {
   TW::MemoryOChannel out;
   other.Write(out);
   TW::MemoryIChannel in(out.GetBytes());
-  Read(in);
+  Expression::Read(in);
 }
 
 ExpressionValue Expression::Evaluate(const IExpressionEvaluationEnv& env) const {

@@ -56,7 +56,7 @@ GraphLayout::GraphLayout(std::span<const unsigned int> layers, std::span<const G
   for (int pass = 0; pass < SettlingPasses; ++pass) {
     const bool isLast = pass + 1 == SettlingPasses;
     if (pass % 2 == 0) {
-      for (std::vector<Item>& layer : layers_) Settle(layer, true, isLast);
+      for (const std::vector<Item>& layer : layers_) Settle(layer, true, isLast);
     } else {
       for (auto layer = layers_.rbegin(); layer != layers_.rend(); ++layer) Settle(*layer, isLast, true);
     }
