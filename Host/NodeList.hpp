@@ -14,17 +14,18 @@ namespace Host {
 
 /// What is known of a node of a formula's tree.
 struct NodeFacts {
-  const QX::ExpressionNode* node = nullptr;
-  std::size_t parent = 0;  ///< its place in the list; that of the root is its own
-  unsigned int depth = 0;
+  const QX::ExpressionNode* node;
+  std::size_t parent;  ///< its place in the list; that of the root is its own
+  unsigned int depth;
   TW::Range<unsigned int> range = {};  ///< of its own pieces in the text
   TW::Range<unsigned int> span = {};   ///< of everything below it too
-  QX::ExpressionValue value;
-  std::exception_ptr failure;  ///< what was thrown in place of a value, or null
+  QX::ExpressionValue value = {};
+  std::exception_ptr failure = {};  ///< what was thrown in place of a value, or null
 };
 
 /// The nodes below and including `root`, each before its children, with the value of each. `text` is where the tree was
-/// rendered. Takes time in proportion to their number, times how deeply they are nested beside chains of operators.
+/// rendered. Throws `std::bad_alloc` when memory runs out, in a node too. Takes time in proportion to their number,
+/// times how deeply they are nested beside chains of operators.
 std::vector<NodeFacts> ListNodes(const QX::ExpressionNode& root, const QX::ExpressionString& text,
                                  const QX::IExpressionEvaluationEnv& environment);
 

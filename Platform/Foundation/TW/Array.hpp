@@ -9,6 +9,7 @@ namespace TW {
 
 /// How many elements an `Array` holds without the heap: eight, and more where they fit into one cache line.
 template <class T>
+// An element may well be a pointer. NOLINTNEXTLINE(bugprone-sizeof-expression)
 inline constexpr std::size_t ArrayInlineCount = std::max<std::size_t>(8, 64 / sizeof(T));
 
 /// A growable array whose first elements live in place, so that the operands of a usual call need no heap.
