@@ -8,8 +8,8 @@
 #include <cstdint>
 #include <string>
 
-// Reads a model that is made up here: walls with placements, shapes, three property sets and quantities each. With
-// --large a model of 200 MB is read too.
+// Reads a model that is made up here: walls with placements, shapes, three property sets and quantities each. The
+// argument is the size in MB.
 
 namespace {
 
@@ -95,18 +95,8 @@ void FindValues(benchmark::State& state) {
   state.SetItemsProcessed(static_cast<std::int64_t>(model.GetElementCount()) * state.iterations());
 }
 
-}  // namespace
+BENCHMARK(ReadIndex)->Arg(20)->Arg(200)->Unit(benchmark::kMillisecond);
+BENCHMARK(ReadModel)->Arg(20)->Arg(200)->Unit(benchmark::kMillisecond);
+BENCHMARK(FindValues)->Arg(20)->Arg(200)->Unit(benchmark::kMillisecond);
 
-int main(int argumentCount, char** arguments) {
-  const bool large = argumentCount > 1 && std::string(arguments[1]) == "--large";
-  if (large) arguments[1] = arguments[0];
-  int count = argumentCount - (large ? 1 : 0);
-  benchmark::Initialize(&count, arguments + (large ? 1 : 0));
-  for (const int size : {20, 200}) {
-    if (size > 20 && !large) break;
-    benchmark::RegisterBenchmark("ReadIndex", ReadIndex)->Arg(size)->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("ReadModel", ReadModel)->Arg(size)->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("FindValues", FindValues)->Arg(size)->Unit(benchmark::kMillisecond);
-  }
-  benchmark::RunSpecifiedBenchmarks();
-}
+}  // namespace

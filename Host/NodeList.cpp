@@ -22,7 +22,10 @@ std::vector<NodeFacts> ListTree(const QX::ExpressionNode& root) {
     const Waiting next = waiting.back();
     waiting.pop_back();
     const std::size_t place = nodes.size();
-    nodes.push_back({next.node, next.parent, next.depth});
+    NodeFacts& facts = nodes.emplace_back();
+    facts.node = next.node;
+    facts.parent = next.parent;
+    facts.depth = next.depth;
     for (unsigned int i = next.node->GetChildCount(); i > 0; --i) {
       waiting.push_back({next.node->GetChild(i - 1), place, next.depth + 1});
     }

@@ -14,13 +14,13 @@ namespace Host {
 
 /// What is known of a node of a formula's tree.
 struct NodeFacts {
-  const QX::ExpressionNode* node;
-  std::size_t parent;  ///< its place in the list; that of the root is its own
-  unsigned int depth;
+  const QX::ExpressionNode* node = nullptr;
+  std::size_t parent = 0;  ///< its place in the list; that of the root is its own
+  unsigned int depth = 0;
   TW::Range<unsigned int> range = {};  ///< of its own pieces in the text
   TW::Range<unsigned int> span = {};   ///< of everything below it too
-  QX::ExpressionValue value = {};
-  std::exception_ptr failure = {};  ///< what was thrown in place of a value, or null
+  QX::ExpressionValue value;
+  std::exception_ptr failure;  ///< what was thrown in place of a value, or null
 };
 
 /// The nodes below and including `root`, each before its children, with the value of each. `text` is where the tree was
