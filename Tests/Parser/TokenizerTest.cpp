@@ -40,6 +40,8 @@ TEST(Tokenizer, TellsTheKindsApart) {
       {u"1e5e5 1e+ .5.", "Number:3 Unit:2 Blank:1 Number:1 Unit:1 Operator:1 Blank:1 Number:2 ?:1"},
       {u"5 1/2\"5 1/2 \"5  1/2", "Inch:6 Inch:7 Number:1 Blank:2 Unit:1 Operator:1 Number:1"},
       {u"5 1 /2\"", "Number:1 Blank:1 Unit:1 Blank:1 Operator:1 Number:1 Unit:1"},
+      {u"5 1/\"a\"", "Number:1 Blank:1 Unit:1 Operator:1 Text:3"},
+      {u"5 /2\"a\"", "Number:1 Blank:1 Operator:1 Number:1 Unit:1 Name:1 OpenText:1"},
       {u"5. 1/2\"", "Number:2 Blank:1 Unit:1 Operator:1 Number:1 Unit:1"},
       {u"\"a\\\"\" \"b\\", "Text:5 Blank:1 OpenText:3"},
       {u"[a:b][a:\\]][a:", "Ref:5 Ref:6 OpenRef:3"},
@@ -47,6 +49,7 @@ TEST(Tokenizer, TellsTheKindsApart) {
       {u"[a[b:c]", "?:1 Name:1 Ref:5"},
       {u"]\\_'", "?:1 ?:1 ?:1 ?:1"},
       {u"\U0001D400\xD800\xDC00\xDC00x\xD800", "?:2 ?:2 ?:1 Name:1 ?:1"},
+      {u"\xD800x\xD800", "?:1 Name:1 ?:1"},
       {u"3\u0663", "Number:1 Unit:1"},
       {u"\u0085\u200B", "Blank:1 ?:1"},
   };
