@@ -1,6 +1,7 @@
 #include "Batch.hpp"
 
 #include "Answer.hpp"
+#include "CommandText.hpp"
 #include "LineReader.hpp"
 #include "Request.hpp"
 
@@ -22,7 +23,7 @@ void Batch::AnswerLine(std::string_view line) {
   try {
     WriteLine(line);
   } catch (const Host::JsonError& error) {
-    Refuse("InvalidJson", TW::UniString::FromUtf8(std::string("This line is no JSON: ") + error.what()));
+    Refuse("InvalidJson", TW::UniString::FromUtf8(MakeText(CommandText::NoJson, error.what())));
   } catch (const RequestError& error) {
     Refuse(error.GetName(), TW::UniString::FromUtf8(error.what()));
   } catch (...) {
@@ -33,8 +34,7 @@ void Batch::AnswerLine(std::string_view line) {
 
 void Batch::RefuseLongLine() {
   id_ = {};
-  Refuse("LineTooLong", TW::UniString::Printf(u"This line is longer than %T bytes.",
-                                              TW::UniString::FromInteger(LineReader::DefaultLongestLine)));
+  Refuse("LineTooLong", TW::UniString::FromUtf8(MakeText(CommandText::LongerThan, LineReader::DefaultLongestLine)));
   answers_ += '\n';
 }
 

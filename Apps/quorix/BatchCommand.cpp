@@ -1,8 +1,8 @@
 #include "Batch.hpp"
+#include "CommandText.hpp"
 #include "CommonOptions.hpp"
 #include "LineReader.hpp"
 
-#include <cstring>
 #include <unistd.h>
 
 namespace Command {
@@ -27,9 +27,7 @@ Status ReadLines(const Settings& defaults, const Call& call) {
     if (call.results.GetError() != 0) break;
   }
   if (outcome != LineReader::Outcome::Failed) return batch.GetStatus();
-  std::string& complaint = call.diagnostics.GetBuffer();
-  complaint.append("quorix: Standard input could not be read: ").append(std::strerror(reader.GetError())).append(".\n");
-  return Status::Unusable;
+  return RefuseInput(call, reader.GetError());
 }
 
 Status Run(const Call& call) {
@@ -38,8 +36,8 @@ Status Run(const Call& call) {
   common.AddTo(options);
   const auto operands = entry.Take(call, options);
   if (!operands) return Status::Success;
-  if (!operands->empty()) throw UsageError("The command 'batch' reads standard input and takes no formulas.");
-  if (common.HasProperties()) throw UsageError("The command 'batch' takes properties from its requests, not by --set.");
+  if (!operands->empty()) throw UsageError(MakeText(CommandText::NoFormulaWanted, entry.GetName()));
+  if (common.HasProperties()) throw UsageError(MakeText(CommandText::PropertiesInRequests, entry.GetName()));
   common.LimitMemory();
   return ReadLines(common.GetSettings({}), call);
 }

@@ -1,6 +1,9 @@
 #include "CommandEntry.hpp"
 
+#include "CommandText.hpp"
+
 #include <algorithm>
+#include <cstring>
 
 namespace Command {
 namespace {
@@ -26,6 +29,12 @@ TW::Optional<std::vector<std::string_view>> CommandEntry::Take(const Call& call,
   if (!operands_.empty()) out.append(" ").append(operands_);
   out.append("\n").append(summary_).append(".\n\nOptions:\n").append(options.GetHelp());
   return {};
+}
+
+Status RefuseInput(const Call& call, int error) {
+  const std::string_view reason = std::strerror(error);
+  call.diagnostics.GetBuffer().append("quorix: ").append(MakeText(CommandText::InputNotRead, reason)).append("\n");
+  return Status::Unusable;
 }
 
 std::vector<const CommandEntry*> GetCommands() {

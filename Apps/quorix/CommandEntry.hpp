@@ -44,6 +44,9 @@ class CommandEntry {
   Status (*run_)(const Call&);
 };
 
+/// Tells that standard input could not be read, for the system's reason.
+Status RefuseInput(const Call& call, int error);
+
 /// All commands by name.
 std::vector<const CommandEntry*> GetCommands();
 

@@ -1,5 +1,6 @@
 #include "CommonOptions.hpp"
 
+#include "CommandText.hpp"
 #include "Evaluation.hpp"
 #include "Host/Display/UnitNames.hpp"
 #include "MemoryLimit.hpp"
@@ -17,81 +18,87 @@ namespace {
 
 using QX::ExpressionValue;
 
-void SetLanguage(std::string_view tag) {
+void SetLanguage(const OptionValue& value) {
+  const std::string_view tag = value.text;
   Resources::SetLanguage(tag);
   const bool isPlain = tag == "C" || tag == "POSIX" || tag == "root";
-  if (!isPlain && Resources::GetLanguage() == "root") throw UsageError("must be a language such as de or de_AT.");
+  if (isPlain || Resources::GetLanguage() != "root") return;
+  throw UsageError(MakeText(CommandText::LanguageExpected, value.option));
 }
 
-unsigned short ReadSeparator(std::string_view text, bool mayBeNone) {
-  const TW::UniString units = TW::UniString::FromUtf8(text);
+unsigned short ReadSeparator(const OptionValue& value, bool mayBeNone) {
+  const TW::UniString units = TW::UniString::FromUtf8(value.text);
   if (units.GetLength() == 1) return units[0].GetCode();
-  if (!units.IsEmpty() || !mayBeNone) throw UsageError("must be one character.");
+  if (!units.IsEmpty() || !mayBeNone) throw UsageError(MakeText(CommandText::CharacterExpected, value.option));
   return 0;
 }
 
 template <class Number>
-Number ReadNumber(std::string_view text, Number maximum) {
+Number ReadNumber(const OptionValue& value, Number maximum) {
+  const std::string_view text = value.text;
   Number number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   if (error != std::errc() || end != text.data() + text.size() || number > maximum) {
-    throw UsageError("must be a whole number from 0 to " + std::to_string(maximum) + ".");
+    throw UsageError(MakeText(CommandText::NumberExpected, value.option, maximum));
   }
   return number;
 }
 
 template <class Unit>
-void ReadUnit(std::string_view name, Unit& unit) {
-  if (!Host::FindUnit(TW::UniString::FromUtf8(name), unit))
-    throw UsageError("must be one of " + Host::GetUnitNames(unit) + ".");
+void ReadUnit(const OptionValue& name, Unit& unit) {
+  if (!Host::FindUnit(TW::UniString::FromUtf8(name.text), unit))
+    throw UsageError(MakeText(CommandText::UnitExpected, name.option, Host::GetUnitNames(unit)));
 }
 
 ExpressionValue ReadValue(std::string_view name, std::string_view text, const Environment& environment) {
   if (auto undefined = FindUndefinedValue(text)) return *std::move(undefined);
   Evaluation evaluation = Evaluate(TW::UniString::FromUtf8(text), environment);
   if (!evaluation.failure && evaluation.value.IsValid()) return std::move(evaluation.value);
-  const std::string reason = evaluation.failure ? ": " + evaluation.failure->message.ToUtf8() : ".";
-  throw UsageError("The option '--set' needs a value that can be evaluated; '" + std::string(text) + "' of '" +
-                   std::string(name) + "' cannot" + reason);
+  throw UsageError(evaluation.failure
+                       ? MakeText(CommandText::WrongValueBecause, text, name, evaluation.failure->message)
+                       : MakeText(CommandText::WrongValue, text, name));
 }
 
 }  // namespace
 
 void CommonOptions::AddTo(OptionTable& options) {
   options.AddValue("locale", "TAG", "language of messages, and its separators (default: the environment's)",
-                   [this](std::string_view tag) { SetLanguage(*(locale_ = std::string(tag))); });
+                   [this](const OptionValue& tag) {
+                     SetLanguage(tag);
+                     locale_ = std::string(tag.text);
+                   });
   AddSeparators(options);
   AddUnits(options);
   options.AddFlag("propagate-undefined", "undefined values come through everywhere",
                   [this] { propagateUndefined_ = true; });
   options.AddValue("set", "NAME=VALUE", "a property, by [NAME] or GUID: a formula or 'undefined length'",
-                   [this](std::string_view assignment) { AddProperty(assignment); });
+                   [this](const OptionValue& assignment) { AddProperty(assignment); });
   options.AddFlag("json", "answers in JSON, one line each", [this] { json_ = true; });
   options.AddValue("max-memory", "MIB", "memory for everything, in MiB (default 4096; 0: no limit)",
-                   [this](std::string_view text) {
-                     mebibytes_ = ReadNumber(text, std::numeric_limits<unsigned long long>::max() >> 20);
+                   [this](const OptionValue& value) {
+                     mebibytes_ = ReadNumber(value, std::numeric_limits<unsigned long long>::max() >> 20);
                    });
 }
 
 void CommonOptions::AddSeparators(OptionTable& options) {
   options.AddValue("decimal", "C", "decimal separator",
-                   [this](std::string_view text) { decimal_ = ReadSeparator(text, false); });
+                   [this](const OptionValue& value) { decimal_ = ReadSeparator(value, false); });
   options.AddValue("list", "C", "separator of arguments",
-                   [this](std::string_view text) { list_ = ReadSeparator(text, false); });
+                   [this](const OptionValue& value) { list_ = ReadSeparator(value, false); });
   options.AddValue("thousand", "C", "separator of groups of digits; empty for none",
-                   [this](std::string_view text) { thousand_ = ReadSeparator(text, true); });
+                   [this](const OptionValue& value) { thousand_ = ReadSeparator(value, true); });
 }
 
 void CommonOptions::AddUnits(OptionTable& options) {
   const auto add = [this, &options](std::string_view name, std::string_view decimalsName, std::string_view help,
                                     auto member) {
-    options.AddValue(name, "U", help, [this, member](std::string_view text) {
+    options.AddValue(name, "U", help, [this, member](const OptionValue& value) {
       auto unit = (Host::DisplayUnits().*member).unit;
-      ReadUnit(text, unit);
+      ReadUnit(value, unit);
       unitChanges_.emplace_back([member, unit](Host::DisplayUnits& units) { (units.*member).unit = unit; });
     });
-    options.AddValue(decimalsName, "N", "its decimals (default 2)", [this, member](std::string_view text) {
-      const auto decimals = ReadNumber(text, std::numeric_limits<unsigned short>::max());
+    options.AddValue(decimalsName, "N", "its decimals (default 2)", [this, member](const OptionValue& value) {
+      const auto decimals = ReadNumber(value, std::numeric_limits<unsigned short>::max());
       unitChanges_.emplace_back([member, decimals](Host::DisplayUnits& units) { (units.*member).decimals = decimals; });
     });
   };
@@ -101,9 +108,12 @@ void CommonOptions::AddUnits(OptionTable& options) {
   add("angle-unit", "angle-decimals", "degree, dms, gon, rad", &Host::DisplayUnits::angle);
 }
 
-void CommonOptions::AddProperty(std::string_view assignment) {
+void CommonOptions::AddProperty(const OptionValue& value) {
+  const std::string_view assignment = value.text;
   const std::size_t equals = assignment.find('=');
-  if (equals == assignment.npos || equals == 0) throw UsageError("must look like Width=2.5 m.");
+  if (equals == assignment.npos || equals == 0) {
+    throw UsageError(MakeText(CommandText::AssignmentExpected, value.option));
+  }
   properties_.emplace_back(assignment.substr(0, equals), assignment.substr(equals + 1));
 }
 

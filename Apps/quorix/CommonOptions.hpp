@@ -41,7 +41,7 @@ class CommonOptions {
 
   void AddSeparators(OptionTable& options);
   void AddUnits(OptionTable& options);
-  void AddProperty(std::string_view assignment);
+  void AddProperty(const OptionValue& value);
 
   TW::Optional<std::string> locale_;
   Separator decimal_;

@@ -1,6 +1,7 @@
 #include "Diagnostic.hpp"
 
 #include "Answer.hpp"
+#include "CommandText.hpp"
 #include "Host/FormulaText.hpp"
 #include "Host/NodeSpan.hpp"
 #include "Host/Screen/Excerpt.hpp"
@@ -27,11 +28,11 @@ void AppendRendered(std::string& out, const Evaluation& evaluation, const QX::Ex
 void AppendDiagnostic(std::string& out, const Evaluation& evaluation, const TW::UniString& written,
                       const PropertyNames& names, const Environment& environment) {
   if (!evaluation.failure) {
-    out += "error: The result is no number, or too large for one. Change the values.\n";
+    out += MakeText(CommandText::Error, MakeText(CommandText::NoResult)) + "\n";
     return Host::AppendExcerpt(out, Indentation, written, {});
   }
   const Failure& failure = *evaluation.failure;
-  out += "error: " + failure.message.ToUtf8() + "\n";
+  out += MakeText(CommandText::Error, failure.message) + "\n";
   if (failure.source != nullptr) return AppendRendered(out, evaluation, *failure.source, names, environment);
   if (failure.stage == Failure::Stage::Evaluation) return Host::AppendExcerpt(out, Indentation, written, {});
   Host::AppendExcerpt(out, Indentation, written, {failure.place, {failure.place}});

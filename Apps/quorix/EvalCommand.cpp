@@ -1,4 +1,5 @@
 #include "CommandEntry.hpp"
+#include "CommandText.hpp"
 #include "CommonOptions.hpp"
 #include "Session.hpp"
 
@@ -15,7 +16,7 @@ Status Run(const Call& call) {
   common.AddTo(options);
   const auto formulas = entry.Take(call, options);
   if (!formulas) return Status::Success;
-  if (formulas->empty()) throw UsageError("The command 'eval' needs a formula.");
+  if (formulas->empty()) throw UsageError(MakeText(CommandText::FormulaMissing, entry.GetName()));
   common.LimitMemory();
 
   Session session(common, call);

@@ -1,4 +1,5 @@
 #include "CommandEntry.hpp"
+#include "CommandText.hpp"
 #include "CommonOptions.hpp"
 #include "Environment.hpp"
 #include "VocabularyPrinter.hpp"
@@ -17,7 +18,7 @@ Status Run(const Call& call) {
   common.AddTo(options);
   const auto operands = entry.Take(call, options);
   if (!operands) return Status::Success;
-  if (operands->size() > 1) throw UsageError("The command 'functions' explains one function at a time.");
+  if (operands->size() > 1) throw UsageError(MakeText(CommandText::OneFunctionWanted, entry.GetName()));
   common.LimitMemory();
 
   std::string& out = call.results.GetBuffer();

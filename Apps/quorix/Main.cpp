@@ -1,4 +1,5 @@
 #include "CommandEntry.hpp"
+#include "CommandText.hpp"
 
 #include <csignal>
 #include <cstring>
@@ -25,11 +26,11 @@ const CommandEntry& FindCommand(std::string_view name) {
   for (const CommandEntry* command : GetCommands()) {
     if (command->GetName() == name) return *command;
   }
-  throw UsageError("There is no command '" + std::string(name) + "'.");
+  throw UsageError(MakeText(CommandText::NoCommand, name));
 }
 
 Status Dispatch(const Call& call) {
-  if (call.arguments.empty()) throw UsageError("Which command?");
+  if (call.arguments.empty()) throw UsageError(MakeText(CommandText::WhichCommand));
   const std::string_view first = call.arguments.front();
   if (first == "--help" || first == "-h") {
     AppendHelp(call.results.GetBuffer());
@@ -47,7 +48,11 @@ Status Run(const Call& call) {
   try {
     return Dispatch(call);
   } catch (const UsageError& error) {
-    complaint.append("quorix: ").append(error.what()).append("\nquorix --help shows how it is called.\n");
+    complaint.append("quorix: ")
+        .append(error.what())
+        .append("\n")
+        .append(MakeText(CommandText::HowCalled))
+        .append("\n");
   } catch (const std::bad_alloc&) {
     complaint.append("quorix: There is not enough memory.\n");
   } catch (const std::exception& exception) {
@@ -60,8 +65,8 @@ Status Run(const Call& call) {
 Status Finish(Status status, Output& results, Output& diagnostics) {
   results.Flush();
   if (results.GetError() != 0) {
-    diagnostics.GetBuffer().append("quorix: The results could not be written: ");
-    diagnostics.GetBuffer().append(std::strerror(results.GetError())).append(".\n");
+    const std::string_view reason = std::strerror(results.GetError());
+    diagnostics.GetBuffer().append("quorix: ").append(MakeText(CommandText::ResultsNotWritten, reason)).append("\n");
     status = Status::Unusable;
   }
   diagnostics.Flush();

@@ -1,4 +1,5 @@
 #include "CommandEntry.hpp"
+#include "CommandText.hpp"
 #include "CommonOptions.hpp"
 #include "ModelInput.hpp"
 #include "ModelOptions.hpp"
@@ -20,7 +21,7 @@ Status Run(const Call& call) {
   common.AddTo(options);
   const auto operands = entry.Take(call, options);
   if (!operands) return Status::Success;
-  if (operands->size() != 1) throw UsageError("The command 'model' needs one file of rules.");
+  if (operands->size() != 1) throw UsageError(MakeText(CommandText::OneFileWanted, entry.GetName()));
   model.Check();
   common.LimitMemory();
 

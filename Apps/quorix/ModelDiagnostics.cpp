@@ -10,18 +10,18 @@ std::string GetPlace(std::string_view path, const Host::FileProblem& problem) {
   return place;
 }
 
-std::string_view GetReason(TW::ErrCode error) {
+CommandText GetReason(TW::ErrCode error) {
   switch (error) {
     case TW::ErrDiskFull:
-      return "there is no room left on the disk";
+      return CommandText::DiskFull;
     case TW::ErrFileNotFound:
-      return "its folder is not there";
+      return CommandText::NoFolder;
     case TW::ErrFileAccess:
-      return "it may not be written";
+      return CommandText::NotAllowed;
     case TW::ErrTooLong:
-      return "the model has no numbers left for new instances";
+      return CommandText::NoNumbersLeft;
     default:
-      return "the system refused it";
+      return CommandText::Refused;
   }
 }
 
@@ -29,20 +29,20 @@ std::string_view GetReason(TW::ErrCode error) {
 
 bool ModelDiagnostics::CheckFile(std::string_view path, const Host::FileProblems& problems) {
   for (const Host::FileProblem& problem : problems.GetList()) {
-    const std::string sentence =
-        GetPlace(path, problem) + ": " + (problem.isFatal ? "error: " : "warning: ") + problem.message.ToUtf8() + "\n";
-    if (problem.isFatal || !quiet_) Write(sentence);
+    if (!problem.isFatal && quiet_) continue;
+    const CommandText degree = problem.isFatal ? CommandText::Error : CommandText::Warning;
+    Write(GetPlace(path, problem) + ": " + MakeText(degree, problem.message) + "\n");
   }
   const std::size_t more = problems.GetCount() - problems.GetList().size();
   if (more != 0 && (problems.HasFatal() || !quiet_)) {
-    Write(std::string(path) + ": " + std::to_string(more) + " more problems are not shown.\n");
+    Write(std::string(path) + ": " + MakeText(CommandText::MoreProblems, more) + "\n");
   }
   return !problems.HasFatal();
 }
 
 bool ModelDiagnostics::CheckWritten(std::string_view path, TW::ErrCode error) {
   if (error == TW::NoErr) return true;
-  Error("The file '" + std::string(path) + "' was not written: " + std::string(GetReason(error)) + ".");
+  Error(MakeText(CommandText::NotWritten, path, MakeText(GetReason(error))));
   return false;
 }
 

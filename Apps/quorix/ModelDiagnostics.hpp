@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CommandEntry.hpp"
+#include "CommandText.hpp"
 #include "Host/Files/FileProblems.hpp"
 #include "TW/ErrorCodes.hpp"
 
@@ -19,9 +20,9 @@ class ModelDiagnostics {
   bool CheckFile(std::string_view path, const Host::FileProblems& problems);
   /// Gives whether a file was written, and tells when it was not.
   bool CheckWritten(std::string_view path, TW::ErrCode error);
-  void Error(const std::string& sentence) { Write("error: " + sentence + "\n"); }
+  void Error(const std::string& sentence) { Write(MakeText(CommandText::Error, sentence) + "\n"); }
   void Warning(const std::string& sentence) {
-    if (!quiet_) Write("warning: " + sentence + "\n");
+    if (!quiet_) Write(MakeText(CommandText::Warning, sentence) + "\n");
   }
   /// Writes lines as they are.
   void Write(std::string_view lines);

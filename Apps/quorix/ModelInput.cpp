@@ -1,14 +1,11 @@
 #include "ModelInput.hpp"
 
+#include "CommandText.hpp"
+
 #include <utility>
 
 namespace Command {
 namespace {
-
-constexpr std::string_view Reading = "Reading";
-constexpr std::string_view Computing = "Computing";
-
-std::string Quote(std::string_view name) { return "'" + std::string(name) + "'"; }
 
 std::size_t CountFormulas(const Host::PropertyTable& table) {
   std::size_t count = 0;
@@ -21,9 +18,9 @@ std::size_t CountFormulas(const Host::PropertyTable& table) {
 }  // namespace
 
 bool ModelInput::Read(const std::string& rulesPath, Progress& progress) {
-  progress.Tell(Reading);
+  progress.Tell(CommandText::Reading);
   if (!ReadRules(rulesPath) || !ReadElements()) return false;
-  progress.Tell(Reading);
+  progress.Tell(CommandText::Reading);
   Host::FillFromSource(*table_, rules_->GetRules(), *source_);
   WarnOfMissingSources();
   if (!SetProperties()) return false;
@@ -64,7 +61,7 @@ void ModelInput::WarnOfMissingSources() const {
     if (rule.sources.empty() || Host::InputReader(rule, *source_).HasSources()) continue;
     std::string names;
     for (const TW::UniString& name : rule.sources) names += (names.empty() ? "" : ", ") + name.ToUtf8();
-    diagnostics_.Warning("No element has a source of the property " + Quote(rule.name.ToUtf8()) + ": " + names + ".");
+    diagnostics_.Warning(MakeText(CommandText::NoSource, rule.name, names));
   }
 }
 
@@ -78,13 +75,13 @@ bool ModelInput::SetProperties() {
 
 bool ModelInput::SetProperty(Host::PropertyIndex property, std::string_view name, const QX::ExpressionValue& value) {
   if (table_->HasFormula(property)) {
-    diagnostics_.Error("The property " + Quote(name) + " has a formula, so --set cannot give it a value.");
+    diagnostics_.Error(MakeText(CommandText::HasFormula, name));
     return false;
   }
   for (Host::ElementIndex element = 0; element < table_->GetElementCount(); ++element) {
     if (table_->GetStatus(property, element) == Host::CellStatus::Absent) continue;
     if (table_->SetInput(property, element, value)) continue;
-    diagnostics_.Error("The value that --set gives the property " + Quote(name) + " is not of its kind.");
+    diagnostics_.Error(MakeText(CommandText::OfAnotherKind, name));
     return false;
   }
   return true;
@@ -92,7 +89,8 @@ bool ModelInput::SetProperty(Host::PropertyIndex property, std::string_view name
 
 void ModelInput::Compute(Progress& progress) {
   const std::size_t total = CountFormulas(*table_) * table_->GetElementCount();
-  table_->Recalculate([&progress, total](std::size_t computed) { progress.Tell(Computing, computed, total); });
+  table_->Recalculate(
+      [&progress, total](std::size_t computed) { progress.Tell(CommandText::Computing, computed, total); });
   progress.Clear();
 }
 
@@ -112,9 +110,7 @@ TW::Optional<Host::PropertyIndex> ModelInput::FindProperty(std::string_view name
   if (id.ConvertFromString(text) == TW::NoErr) {
     if (const Host::PropertyIndex* property = catalog.FindById(id)) return *property;
   }
-  diagnostics_.Error(found.empty() ? "The rules have no property " + Quote(name) + "."
-                                   : "The rules have several properties " + Quote(name) +
-                                         ". Write the group before the name, as in Group.Name.");
+  diagnostics_.Error(MakeText(found.empty() ? CommandText::NoProperty : CommandText::SeveralProperties, name));
   return std::nullopt;
 }
 

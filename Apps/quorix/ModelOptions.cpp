@@ -1,5 +1,7 @@
 #include "ModelOptions.hpp"
 
+#include "CommandText.hpp"
+
 #include <algorithm>
 #include <initializer_list>
 
@@ -10,21 +12,16 @@ char ToLower(char character) {
   return character >= 'A' && character <= 'Z' ? static_cast<char>(character + ('a' - 'A')) : character;
 }
 
-std::string TakePath(std::string_view path, std::initializer_list<std::string_view> endings) {
+std::string TakePath(const OptionValue& path, std::initializer_list<std::string_view> endings) {
   const bool isKnown =
-      std::ranges::any_of(endings, [path](std::string_view ending) { return HasEnding(path, ending); });
-  if (isKnown) return std::string(path);
-  std::string message = "must name a file that ends in";
-  std::string_view before = " ";
-  for (const std::string_view ending : endings) {
-    message.append(before).append(ending);
-    before = " or ";
-  }
-  throw UsageError(message + ".");
+      std::ranges::any_of(endings, [&path](std::string_view ending) { return HasEnding(path.text, ending); });
+  if (isKnown) return std::string(path.text);
+  throw UsageError(MakeText(CommandText::EndingExpected, path.option, JoinWithOr(endings)));
 }
 
 // Names stand between commas; a backslash makes a comma part of a name.
-std::vector<std::string> SplitNames(std::string_view list) {
+std::vector<std::string> SplitNames(const OptionValue& value) {
+  const std::string_view list = value.text;
   std::vector<std::string> names(1);
   for (std::size_t i = 0; i < list.size(); ++i) {
     const bool isEscape = list[i] == '\\' && i + 1 < list.size() && (list[i + 1] == ',' || list[i + 1] == '\\');
@@ -34,13 +31,15 @@ std::vector<std::string> SplitNames(std::string_view list) {
       names.back() += list[isEscape ? ++i : i];
     }
   }
-  if (std::ranges::any_of(names, &std::string::empty)) throw UsageError("must look like Width,Net volume.");
+  if (std::ranges::any_of(names, &std::string::empty)) {
+    throw UsageError(MakeText(CommandText::NamesExpected, value.option));
+  }
   return names;
 }
 
-void TakeOnce(TW::Optional<std::string>& path, std::string_view text) {
-  if (path) throw UsageError("may be given once only.");
-  path = std::string(text);
+void TakeOnce(TW::Optional<std::string>& taken, const OptionValue& value) {
+  if (taken) throw UsageError(MakeText(CommandText::GivenTwice, value.option));
+  taken = std::string(value.text);
 }
 
 }  // namespace
@@ -53,17 +52,17 @@ bool HasEnding(std::string_view path, std::string_view ending) {
 
 void ModelOptions::AddTo(OptionTable& options) {
   options.AddValue("ifc", "FILE", "a building model (IFC2X3, IFC4, IFC4X3)",
-                   [this](std::string_view path) { TakeOnce(ifcPath, path); });
+                   [this](const OptionValue& path) { TakeOnce(ifcPath, path); });
   options.AddValue("csv", "FILE", "a table of elements, with a line of names first",
-                   [this](std::string_view path) { TakeOnce(csvPath, path); });
+                   [this](const OptionValue& path) { TakeOnce(csvPath, path); });
   options.AddValue("out", "FILE", "writes the values to FILE, by its ending: .json, .csv, .ifc; may be repeated",
-                   [this](std::string_view path) { outputs.push_back(TakePath(path, {".json", ".csv", ".ifc"})); });
+                   [this](const OptionValue& path) { outputs.push_back(TakePath(path, {".json", ".csv", ".ifc"})); });
   options.AddValue("graph", "FILE", "draws which property depends on which to FILE: .dot, .svg",
-                   [this](std::string_view path) { graphs.push_back(TakePath(path, {".dot", ".svg"})); });
+                   [this](const OptionValue& path) { graphs.push_back(TakePath(path, {".dot", ".svg"})); });
   options.AddValue("only", "NAME,...", "properties to tell of (default: all formulas)",
-                   [this](std::string_view names) { only = SplitNames(names); });
+                   [this](const OptionValue& names) { only = SplitNames(names); });
   options.AddValue("where", "FORMULA", "elements to tell of: those for which it is true",
-                   [this](std::string_view formula) { TakeOnce(where, formula); });
+                   [this](const OptionValue& formula) { TakeOnce(where, formula); });
   options.AddPair(
       "explain", "ELEMENT PROPERTY", "how a value came about; the element by GlobalId, name or tag",
       [this](std::string_view element, std::string_view property) { explanations.emplace_back(element, property); });
@@ -74,11 +73,11 @@ void ModelOptions::AddTo(OptionTable& options) {
 
 void ModelOptions::Check() const {
   if (ifcPath.has_value() == csvPath.has_value()) {
-    throw UsageError("The command 'model' needs elements, either by --ifc FILE or by --csv FILE.");
+    throw UsageError(MakeText(CommandText::ElementsMissing, "model"));
   }
   const auto isIfc = [](const std::string& path) { return HasEnding(path, ".ifc"); };
   if (!ifcPath && std::ranges::any_of(outputs, isIfc)) {
-    throw UsageError("Only a model that was read by --ifc can be written to an .ifc file.");
+    throw UsageError(MakeText(CommandText::OnlyFromIfc));
   }
 }
 

@@ -1,5 +1,7 @@
 #include "ModelOutput.hpp"
 
+#include "CommandText.hpp"
+
 #include <algorithm>
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -14,12 +16,6 @@ Host::TableLimits GetTableLimits() {
   winsize size{};
   if (::isatty(STDOUT_FILENO) == 0 || ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) != 0) return {};
   return {size.ws_col, MaximumRowsOnTerminal};
-}
-
-std::string Quote(std::string_view name) { return "'" + std::string(name) + "'"; }
-
-std::string CountElements(Host::ElementIndex count) {
-  return count == 1 ? "1 element" : std::to_string(count) + " elements";
 }
 
 template <class Write>
@@ -88,7 +84,7 @@ bool ModelOutput::ChooseElements(Host::ReportScope& scope) const {
   const auto& locale = input_.GetSettings().locale;
   const Host::ReadFormula condition = Host::ReadFormulaWithNames(text.GetView(), locale, scope.table.GetCatalog());
   if (condition.error) {
-    diagnostics_.Error("The condition of --where cannot be used. " + condition.error->message.ToUtf8());
+    diagnostics_.Error(MakeText(CommandText::WrongCondition, condition.error->message));
     std::string excerpt;
     Host::AppendExcerpt(excerpt, "  ", text, {condition.error->range, {condition.error->range}});
     diagnostics_.Write(excerpt);
@@ -96,12 +92,15 @@ bool ModelOutput::ChooseElements(Host::ReportScope& scope) const {
   }
   Host::FilteredElements filtered = Host::FilterElements(scope.table, condition, locale);
   if (filtered.firstFailure) {
-    diagnostics_.Warning("The condition of --where has no value for " + CountElements(filtered.failedCount) +
-                         ", left out here. " + filtered.firstFailure->message.ToUtf8());
+    const TW::UniString& message = filtered.firstFailure->message;
+    diagnostics_.Warning(filtered.failedCount == 1
+                             ? MakeText(CommandText::ConditionFailsOnce, message)
+                             : MakeText(CommandText::ConditionFails, filtered.failedCount, message));
   }
   if (filtered.undefinedCount != 0) {
-    diagnostics_.Warning("The condition of --where is undefined for " + CountElements(filtered.undefinedCount) +
-                         ", left out here.");
+    diagnostics_.Warning(filtered.undefinedCount == 1
+                             ? MakeText(CommandText::ConditionUndefinedOnce)
+                             : MakeText(CommandText::ConditionUndefined, filtered.undefinedCount));
   }
   scope.elements = std::move(filtered.kept);
   return true;
@@ -149,7 +148,7 @@ Status ModelOutput::Explain(const Host::ReportScope& scope, std::string_view ele
                             Host::PropertyIndex property) const {
   const auto elements = Host::FindElements(scope.source, TW::UniString::FromUtf8(elementText).GetView());
   if (elements.empty()) {
-    diagnostics_.Error("There is no element " + Quote(elementText) + ". Give its GlobalId, name or tag.");
+    diagnostics_.Error(MakeText(CommandText::NoElement, elementText));
     return Status::Unusable;
   }
   const auto origin = [this](Host::PropertyIndex input, Host::ElementIndex element) {

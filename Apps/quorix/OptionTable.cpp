@@ -1,5 +1,7 @@
 #include "OptionTable.hpp"
 
+#include "CommandText.hpp"
+
 #include <algorithm>
 #include <array>
 
@@ -17,8 +19,6 @@ bool IsOption(std::string_view argument) {
   return argument.starts_with(Prefix) && argument.size() > Prefix.size() && IsLetter(argument[Prefix.size()]);
 }
 
-std::string Quote(std::string_view text) { return "'" + std::string(text) + "'"; }
-
 std::string GetUsage(std::string_view name, std::string_view valueNames) {
   std::string usage = "  " + std::string(Prefix) + std::string(name);
   if (!valueNames.empty()) usage += " " + std::string(valueNames);
@@ -32,26 +32,27 @@ OptionTable::OptionTable() {
 }
 
 void OptionTable::AddFlag(std::string_view name, std::string_view help, std::function<void()> take) {
-  options_.push_back({name, {}, help, 0, [take = std::move(take)](std::string_view, std::string_view) { take(); }});
+  options_.push_back({name, {}, help, 0, [take = std::move(take)](const OptionValue&, std::string_view) { take(); }});
 }
 
 void OptionTable::AddValue(std::string_view name, std::string_view valueName, std::string_view help,
-                           std::function<void(std::string_view)> take) {
-  options_.push_back(
-      {name, valueName, help, 1, [take = std::move(take)](std::string_view value, std::string_view) { take(value); }});
+                           std::function<void(const OptionValue&)> take) {
+  options_.push_back({name, valueName, help, 1,
+                      [take = std::move(take)](const OptionValue& value, std::string_view) { take(value); }});
 }
 
 void OptionTable::AddPair(std::string_view name, std::string_view valueNames, std::string_view help,
                           std::function<void(std::string_view, std::string_view)> take) {
-  options_.push_back({name, valueNames, help, 2, std::move(take)});
+  options_.push_back(
+      {name, valueNames, help, 2,
+       [take = std::move(take)](const OptionValue& first, std::string_view second) { take(first.text, second); }});
 }
 
 const OptionTable::Option& OptionTable::Find(std::string_view name) const {
   const auto found =
       std::find_if(options_.begin(), options_.end(), [name](const Option& option) { return option.name == name; });
   if (found == options_.end()) {
-    throw UsageError("There is no option " + Quote(std::string(Prefix) + std::string(name)) +
-                     ". A formula that looks like one goes after " + Quote(Prefix) + ".");
+    throw UsageError(MakeText(CommandText::NoOption, std::string(Prefix) + std::string(name)));
   }
   return *found;
 }
@@ -81,19 +82,16 @@ std::size_t OptionTable::TakeOption(std::span<const std::string_view> arguments)
   const std::string_view joined = hasValue ? name.substr(equals + 1) : std::string_view();
   name = name.substr(0, equals);
   const Option& option = Find(name);
-  const std::string shown = Quote(std::string(Prefix) + std::string(name));
-  if (option.valueCount == 0 && hasValue) throw UsageError("The option " + shown + " takes no value.");
+  const std::string shown = std::string(Prefix) + std::string(name);
+  if (option.valueCount == 0 && hasValue) throw UsageError(MakeText(CommandText::NoValueWanted, shown));
   const std::size_t following = option.valueCount - (hasValue ? 1 : 0);
   if (arguments.size() <= following) {
-    throw UsageError("The option " + shown + (option.valueCount > 1 ? " needs two values." : " needs a value."));
+    throw UsageError(
+        MakeText(option.valueCount > 1 ? CommandText::TwoValuesMissing : CommandText::ValueMissing, shown));
   }
   std::array<std::string_view, 2> values{joined};
   std::copy_n(arguments.begin() + 1, following, values.begin() + (hasValue ? 1 : 0));
-  try {
-    option.take(values[0], values[1]);
-  } catch (const UsageError& error) {
-    throw UsageError("The option " + shown + " " + error.what());
-  }
+  option.take({shown, values[0]}, values[1]);
   return following + 1;
 }
 

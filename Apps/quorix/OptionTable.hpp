@@ -15,6 +15,12 @@ class UsageError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+/// A value that was given to an option.
+struct OptionValue {
+  std::string_view option;  ///< the name of the option, as people write it
+  std::string_view text;
+};
+
 /// The options of a command. They begin with two hyphens and a letter and may stand anywhere, as `--name VALUE` or
 /// `--name=VALUE`; after `--` there are none. Everything else is an operand, so that formulas may begin with a sign.
 class OptionTable {
@@ -23,11 +29,10 @@ class OptionTable {
   OptionTable(const OptionTable&) = delete;
   OptionTable& operator=(const OptionTable&) = delete;
 
-  /// Both names and texts must last as long as the table. `take` may throw `UsageError`, to which the table adds which
-  /// option it is about.
+  /// Both names and texts must last as long as the table. `take` may throw `UsageError`.
   void AddFlag(std::string_view name, std::string_view help, std::function<void()> take);
   void AddValue(std::string_view name, std::string_view valueName, std::string_view help,
-                std::function<void(std::string_view)> take);
+                std::function<void(const OptionValue&)> take);
   /// An option of two values, `--name FIRST SECOND`, or `--name=FIRST SECOND`.
   void AddPair(std::string_view name, std::string_view valueNames, std::string_view help,
                std::function<void(std::string_view, std::string_view)> take);
@@ -45,7 +50,7 @@ class OptionTable {
     std::string_view valueNames;  ///< empty for a flag
     std::string_view help;
     std::size_t valueCount;  ///< at most two
-    std::function<void(std::string_view, std::string_view)> take;
+    std::function<void(const OptionValue& first, std::string_view second)> take;
   };
 
   const Option& Find(std::string_view name) const;

@@ -23,10 +23,10 @@ void Write(std::string_view text) {
 
 Progress::Progress(bool wanted) : wanted_(wanted && ::isatty(STDERR_FILENO) != 0), next_(Clock::now() + Patience) {}
 
-void Progress::Tell(std::string_view work, std::size_t done, std::size_t total) {
+void Progress::Tell(CommandText work, std::size_t done, std::size_t total) {
   if (!wanted_ || Clock::now() < next_) return;
   std::string line(ClearLine);
-  line += work;
+  line += MakeText(work);
   if (total != 0) line += " " + std::to_string(std::min(done, total) * 100 / total) + " %";
   Write(line);
   shown_ = true;

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "CommandText.hpp"
+
 #include <chrono>
 #include <cstddef>
-#include <string_view>
 
 namespace Command {
 
@@ -16,7 +17,7 @@ class Progress {
   ~Progress() { Clear(); }
 
   /// Tells what is being done, and how much of it is done; a total of 0 is not known. Costs little when called often.
-  void Tell(std::string_view work, std::size_t done = 0, std::size_t total = 0);
+  void Tell(CommandText work, std::size_t done = 0, std::size_t total = 0);
   /// Wipes the line out.
   void Clear();
 

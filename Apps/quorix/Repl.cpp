@@ -1,5 +1,6 @@
 #include "Repl.hpp"
 
+#include "CommandText.hpp"
 #include "Quorix/ExpressionReferenceFormatUtils.hpp"
 #include "Resources/Language.hpp"
 #include "UndefinedValue.hpp"
@@ -79,7 +80,7 @@ bool Repl::Take(std::string_view line) {
 void Repl::Refuse(std::string_view reason) {
   status_ = Status::FormulaFailed;
   call_.results.Flush();
-  call_.diagnostics.GetBuffer().append("error: ").append(reason).append("\n");
+  call_.diagnostics.GetBuffer().append(MakeText(CommandText::Error, reason)).append("\n");
   call_.diagnostics.Flush();
 }
 
@@ -89,7 +90,7 @@ void Repl::NoteOutcome(const Session::Formula& formula) {
 
 void Repl::RunCommand(std::string_view name, std::string_view rest) {
   const CommandRow* command = FindCommand(name);
-  if (command == nullptr) throw UsageError("There is no command ':" + std::string(name) + "'. :help lists them.");
+  if (command == nullptr) throw UsageError(MakeText(CommandText::NoLineCommand, name));
   (this->*command->run)(rest);
 }
 
@@ -97,7 +98,7 @@ void Repl::SetProperty(std::string_view assignment) {
   if (assignment.empty()) return ListProperties();
   const std::size_t equals = assignment.find('=');
   const std::string_view name = Trim(assignment.substr(0, equals));
-  if (equals == assignment.npos || name.empty()) throw UsageError("A property is set as in :set Width = 2.5 m.");
+  if (equals == assignment.npos || name.empty()) throw UsageError(MakeText(CommandText::SetForm));
   const TW::Guid propertyId = session_.GetNames().GetPropertyId(TW::UniString::FromUtf8(name));
   const std::string_view formula = Trim(assignment.substr(equals + 1));
   if (auto undefined = FindUndefinedValue(formula)) return sheet_.SetValue(propertyId, *std::move(undefined));
@@ -109,7 +110,7 @@ void Repl::SetFormula(const TW::Guid& propertyId, std::string_view text) {
   const QX::Expression& expression = formula.evaluation.expression;
   if (expression.IsValid()) {
     const TW::Array<TW::Guid> cycle = sheet_.SetFormula(propertyId, expression);
-    if (!cycle.empty()) throw UsageError("This formula makes properties refer to themselves: " + GetPath(cycle) + ".");
+    if (!cycle.empty()) throw UsageError(MakeText(CommandText::Cycle, GetPath(cycle)));
   }
   NoteOutcome(formula);
   session_.Show(formula, common_.IsJson());
@@ -135,7 +136,8 @@ void Repl::ListProperties() {
       out += " = " + session_.GetNames().RestoreNames(text).GetText().ToUtf8();
     }
     const QX::ExpressionValue* value = environment.GetValues().Find(propertyId);
-    out += ": " + (value == nullptr ? "no value" : environment.GetDisplay().Make(*value).ToUtf8()) + "\n";
+    out += ": " + (value == nullptr ? MakeText(CommandText::NoValue) : environment.GetDisplay().Make(*value).ToUtf8()) +
+           "\n";
   });
 }
 
@@ -144,7 +146,7 @@ void Repl::SetUnits(std::string_view words) {
   const std::string_view kind = TakeWord(words);
   const std::string_view unit = TakeWord(words);
   if (std::ranges::find(Kinds, kind) == Kinds.end() || unit.empty()) {
-    throw UsageError("Units are set as in :units length mm 1; there are length, area, volume and angle.");
+    throw UsageError(MakeText(CommandText::UnitsForm));
   }
   const std::string unitOption = "--" + std::string(kind) + "-unit";
   const std::string decimalsOption = "--" + std::string(kind) + "-decimals";
@@ -154,7 +156,7 @@ void Repl::SetUnits(std::string_view words) {
 }
 
 void Repl::SetLocale(std::string_view tag) {
-  if (tag.empty()) throw UsageError("The locale is set as in :locale de_DE.");
+  if (tag.empty()) throw UsageError(MakeText(CommandText::LocaleForm));
   ChangeOptions({"--locale", tag});
 }
 

@@ -1,4 +1,5 @@
 #include "CommandEntry.hpp"
+#include "CommandText.hpp"
 #include "CommonOptions.hpp"
 #include "LineReader.hpp"
 #include "Repl.hpp"
@@ -7,7 +8,6 @@
 #include "LineEditor.hpp"
 #endif
 
-#include <cstring>
 #include <unistd.h>
 
 namespace Command {
@@ -22,7 +22,7 @@ bool IsTerminal() { return ::isatty(STDIN_FILENO) == 1 && ::isatty(STDOUT_FILENO
 
 // What a person got wrong on the way says nothing about how the conversation ended.
 Status Converse(Repl& repl, const Call& call) {
-  call.results.GetBuffer() += "Type a formula, :help or :quit.\n";
+  call.results.GetBuffer() += MakeText(CommandText::Greeting) + "\n";
   call.results.Flush();
   LineEditor editor([&repl](const TW::UniString& beforeCursor) { return repl.Complete(beforeCursor); });
   std::string_view line;
@@ -39,14 +39,12 @@ Status ReadLines(Repl& repl, const Call& call) {
         if (!repl.Take(line) || call.results.GetError() != 0) return repl.GetStatus();
         break;
       case LineReader::Outcome::TooLong:
-        repl.Refuse("This line is too long.");
+        repl.Refuse(MakeText(CommandText::LineTooLong));
         break;
       case LineReader::Outcome::End:
         return repl.GetStatus();
       case LineReader::Outcome::Failed:
-        call.diagnostics.GetBuffer().append("quorix: Standard input could not be read: ");
-        call.diagnostics.GetBuffer().append(std::strerror(reader.GetError())).append(".\n");
-        return Status::Unusable;
+        return RefuseInput(call, reader.GetError());
     }
   }
 }
@@ -57,7 +55,7 @@ Status Run(const Call& call) {
   common.AddTo(options);
   const auto operands = entry.Take(call, options);
   if (!operands) return Status::Success;
-  if (!operands->empty()) throw UsageError("The command 'repl' reads standard input and takes no formulas.");
+  if (!operands->empty()) throw UsageError(MakeText(CommandText::NoFormulaWanted, entry.GetName()));
   common.LimitMemory();
 
   Repl repl(common, options, call);

@@ -1,13 +1,14 @@
 #include "Request.hpp"
 
+#include "CommandText.hpp"
 #include "Host/Rules/SettingsReader.hpp"
 #include "RequestValue.hpp"
 
 namespace Command {
 namespace {
 
-[[noreturn]] void RefuseType(const char* key, const char* expected) {
-  throw RequestError("WrongType", std::string("\"") + key + "\" must be " + expected + ".");
+[[noreturn]] void RefuseType(CommandText reason, std::string_view key) {
+  throw RequestError("WrongType", MakeText(reason, key));
 }
 
 // A request ends at the first thing that is wrong with a setting, but keys that it need not know have no bearing.
@@ -44,13 +45,13 @@ void ReadSetting(std::u16string_view key, const Host::JsonValue& value, Settings
 TW::Guid ReadGuid(std::u16string_view text) {
   TW::Guid guid;
   if (guid.ConvertFromString(text) != TW::NoErr) {
-    throw RequestError("InvalidGuid", "\"" + TW::UniString(text).ToUtf8() + "\" is no GUID.");
+    throw RequestError("InvalidGuid", MakeText(CommandText::NoGuid, TW::UniString(text)));
   }
   return guid;
 }
 
 void ReadProperties(const Host::JsonValue& value, Environment& environment) {
-  if (!value.IsObject()) RefuseType("properties", "an object of values by GUID");
+  if (!value.IsObject()) RefuseType(CommandText::ValuesExpected, "properties");
   value.ForEachMember([&](std::u16string_view name, const Host::JsonValue& member) {
     const TW::Guid propertyId = ReadGuid(name);
     if (auto propertyValue = ReadPropertyValue(member)) {
@@ -62,7 +63,7 @@ void ReadProperties(const Host::JsonValue& value, Environment& environment) {
 }
 
 void ReadStatuses(const Host::JsonValue& value, Environment& environment) {
-  if (!value.IsObject()) RefuseType("status", "an object of numbers by GUID");
+  if (!value.IsObject()) RefuseType(CommandText::StatusesExpected, "status");
   value.ForEachMember([&](std::u16string_view name, const Host::JsonValue& member) {
     const TW::Guid propertyId = ReadGuid(name);
     const auto status = settingsReader.ReadWholeNumber(member, 0, 2, u"status");
@@ -83,18 +84,18 @@ std::string_view ReadId(const Host::JsonValue& request) {
 
 void ReadRequest(const Host::JsonValue& request, const Settings& defaults, TW::UniString& formula,
                  Environment& environment) {
-  if (!request.IsObject()) throw RequestError("WrongType", "A request must be an object.");
+  if (!request.IsObject()) throw RequestError("WrongType", MakeText(CommandText::NoRequest));
   Settings settings = defaults;
   RequestSeparators separators;
   bool hasFormula = false;
   request.ForEachMember([&](std::u16string_view key, const Host::JsonValue& value) {
     if (key != u"formula") return ReadSetting(key, value, settings, separators);
-    if (!value.IsText()) RefuseType("formula", "a text");
+    if (!value.IsText()) RefuseType(CommandText::TextExpected, "formula");
     formula.Clear();
     formula.Append(value.GetText());
     hasFormula = true;
   });
-  if (!hasFormula) throw RequestError("FormulaMissing", "A request must have a \"formula\".");
+  if (!hasFormula) throw RequestError("FormulaMissing", MakeText(CommandText::NoFormula));
   settings.locale = separators.locale.Over(settings.locale);
   settings.renderLocale = separators.renderLocale.Over(settings.locale);
 

@@ -1,5 +1,6 @@
 #include "RequestValue.hpp"
 
+#include "CommandText.hpp"
 #include "Request.hpp"
 #include "TW/UniString.hpp"
 
@@ -20,41 +21,39 @@ struct Members {
   int angle = 0;
 };
 
-[[noreturn]] void Refuse(const char* reason) {
-  throw RequestError("WrongType", std::string("The value of a property ") + reason + ".");
-}
+[[noreturn]] void Refuse(CommandText reason) { throw RequestError("WrongType", MakeText(reason)); }
 
 int ReadExponent(const Host::JsonValue& value) {
   using Limits = std::numeric_limits<int>;
   long long exponent = 0;
-  if (!value.GetWholeNumber(Limits::min(), Limits::max(), exponent)) Refuse("must have whole numbers as exponents");
+  if (!value.GetWholeNumber(Limits::min(), Limits::max(), exponent)) Refuse(CommandText::ExponentsExpected);
   return static_cast<int>(exponent);
 }
 
 Members ReadMembers(const Host::JsonValue& value) {
-  if (!value.IsObject()) Refuse("must be an object with a kind");
+  if (!value.IsObject()) Refuse(CommandText::KindMissing);
   Members members;
   value.ForEachMember([&members](std::u16string_view key, const Host::JsonValue& member) {
     if (key == u"kind") members.kind = member;
     if (key == u"value") members.value = member;
-    if (key == u"undefined" && !member.GetBool(members.undefined)) Refuse("must be undefined by true or false");
+    if (key == u"undefined" && !member.GetBool(members.undefined)) Refuse(CommandText::UndefinedExpected);
     if (key == u"length") members.length = ReadExponent(member);
     if (key == u"angle") members.angle = ReadExponent(member);
   });
-  if (!members.kind || !members.kind->IsText()) Refuse("must be an object with a kind");
+  if (!members.kind || !members.kind->IsText()) Refuse(CommandText::KindMissing);
   return members;
 }
 
 ExpressionValue ReadLogical(const Members& members) {
   if (members.undefined) return ExpressionValue::FromBool(Undefined());
   bool content = false;
-  if (!members.value || !members.value->GetBool(content)) Refuse("of kind \"logical\" must be true or false");
+  if (!members.value || !members.value->GetBool(content)) Refuse(CommandText::LogicalExpected);
   return ExpressionValue::FromBool(content);
 }
 
 ExpressionValue ReadText(const Members& members) {
   if (members.undefined) return ExpressionValue::FromString(Undefined());
-  if (!members.value || !members.value->IsText()) Refuse("of kind \"text\" must be a text");
+  if (!members.value || !members.value->IsText()) Refuse(CommandText::TextValueExpected);
   return ExpressionValue::FromString(TW::UniString(members.value->GetText()));
 }
 
@@ -63,7 +62,7 @@ ExpressionValue ReadInteger(const Members& members) {
   using Limits = std::numeric_limits<int>;
   long long content = 0;
   if (!members.value || !members.value->GetWholeNumber(Limits::min(), Limits::max(), content)) {
-    Refuse("of kind \"integer\" must be a whole number of 32 bits");
+    Refuse(CommandText::IntegerExpected);
   }
   return ExpressionValue::FromInteger(static_cast<int>(content));
 }
@@ -72,7 +71,7 @@ ExpressionValue ReadNumber(const Members& members) {
   const QX::UnitExponents exponents(members.length, members.angle);
   if (members.undefined) return ExpressionValue::FromQuantity(Undefined(), exponents);
   double content = 0;
-  if (!members.value || !members.value->GetNumber(content)) Refuse("of kind \"number\" must be a finite number");
+  if (!members.value || !members.value->GetNumber(content)) Refuse(CommandText::FiniteNumberExpected);
   return ExpressionValue::FromQuantity(content, exponents);
 }
 
@@ -87,7 +86,7 @@ TW::Optional<ExpressionValue> ReadPropertyValue(const Host::JsonValue& value) {
   if (kind == u"text") return ReadText(members);
   if (kind == u"integer") return ReadInteger(members);
   if (kind == u"number") return ReadNumber(members);
-  Refuse("must be of kind invalid, logical, text, integer, number or failing");
+  Refuse(CommandText::UnknownKind);
 }
 
 }  // namespace Command

@@ -1,4 +1,5 @@
 #include "CommandEntry.hpp"
+#include "CommandText.hpp"
 #include "CommonOptions.hpp"
 #include "Session.hpp"
 
@@ -15,7 +16,7 @@ Status Run(const Call& call) {
   common.AddTo(options);
   const auto operands = entry.Take(call, options);
   if (!operands) return Status::Success;
-  if (operands->size() != 1) throw UsageError("The command 'tree' needs one formula.");
+  if (operands->size() != 1) throw UsageError(MakeText(CommandText::OneFormulaWanted, entry.GetName()));
   common.LimitMemory();
 
   Session session(common, call);

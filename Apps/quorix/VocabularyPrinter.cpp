@@ -1,6 +1,7 @@
 #include "VocabularyPrinter.hpp"
 
 #include "Answer.hpp"
+#include "CommandText.hpp"
 #include "Host/Json/JsonWriter.hpp"
 #include "Host/Json/ValueJson.hpp"
 #include "OptionTable.hpp"
@@ -113,12 +114,10 @@ void AppendText(std::string& out, const WordHelp& help) {
 }
 
 std::string MakeComplaint(const TW::UniString& word) {
-  std::string complaint = "There is no function, operator, constant or unit '" + word.ToUtf8() + "'.";
-  std::string similar;
-  for (const TW::UniString& candidate : FindSimilarWords(word)) {
-    similar += (similar.empty() ? "" : " or ") + candidate.ToUtf8();
-  }
-  if (!similar.empty()) complaint += " Did you mean " + similar + "?";
+  std::string complaint = MakeText(CommandText::NoWord, word);
+  std::vector<std::string> similar;
+  for (const TW::UniString& candidate : FindSimilarWords(word)) similar.push_back(candidate.ToUtf8());
+  if (!similar.empty()) complaint += " " + MakeText(CommandText::SimilarWords, JoinWithOr(similar));
   return complaint;
 }
 

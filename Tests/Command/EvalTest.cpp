@@ -222,6 +222,29 @@ TEST(Tree, TakesLongChainsAndDeepNesting) {
   EXPECT_NE(nested.out.find("\n" + Repeat(" ", 40) + "(250) ExpressionIntegerNode"), std::string::npos);
 }
 
+TEST(CommandLine, SpeaksTheLanguageThatIsAskedFor) {
+  const std::pair<std::vector<std::string>, std::string> rows[] = {
+      {{"eval", "--locale=de", "1/0"}, "Fehler: Der Divisor ist null."},
+      {{"eval", "--locale=fr", "1e308*10"}, "erreur\u00A0: Le résultat n’est pas un nombre"},
+      {{"eval", "--locale=de", "--length-unit=x", "1"},
+       "quorix: Die Option „--length-unit“ muss eines von m, dm, cm, mm, ft-frac, ft-dec, ft, in-frac, in sein.\n"
+       "quorix --help zeigt, wie es aufgerufen wird.\n"},
+      {{"functions", "--locale=fr", "LEFR"},
+       "quorix: Il n’y a ni fonction, ni opérateur, ni constante, ni unité «\u00A0LEFR\u00A0». "
+       "Vouliez-vous dire LEFT\u202F?\n"},
+      {{"model", "--locale=de", "none.json", "--ifc=x", "--csv=x"},
+       "quorix: Der Befehl „model“ braucht Elemente, entweder mit --ifc DATEI oder mit --csv DATEI.\n"},
+      {{"model", "--locale=fr", "none.json", "--csv=x"}, "none.json: erreur\u00A0: Le fichier ne peut pas être lu."},
+      {{"model", "--locale=de", "r", "--csv=x", "--out=x.pdf"},
+       "quorix: Die Option „--out“ muss eine Datei nennen, die auf .json oder .csv oder .ifc endet.\n"},
+  };
+  for (const auto& [arguments, beginning] : rows) {
+    EXPECT_EQ(RunProgram(arguments).err.substr(0, beginning.size()), beginning);
+  }
+  const std::string answer = RunProgram({"batch", "--locale=de"}, "{}\n").out;
+  EXPECT_NE(answer.find("Eine Anfrage muss eine „formula“ haben."), std::string::npos) << answer;
+}
+
 TEST(CommandLine, RefusesArgumentsInASentence) {
   const std::vector<std::pair<std::vector<std::string>, std::string>> rows = {
       {{}, "Which command?"},
