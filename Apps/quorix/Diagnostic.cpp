@@ -5,6 +5,7 @@
 #include "Host/FormulaText.hpp"
 #include "Host/NodeSpan.hpp"
 #include "Host/Screen/Excerpt.hpp"
+#include "Suggestion.hpp"
 
 namespace Command {
 namespace {
@@ -23,6 +24,15 @@ void AppendRendered(std::string& out, const Evaluation& evaluation, const QX::Ex
   Host::AppendExcerpt(out, Indentation, shown.GetText(), place);
 }
 
+// A question after the word that may have been meant by one that the language does not know.
+std::string SuggestFor(const Failure& failure, const TW::UniString& written) {
+  using Reason = EP::SyntaxErrorReason;
+  const bool isWord = failure.name == GetReasonName(Reason::UnknownFunction) ||
+                      failure.name == GetReasonName(Reason::UnknownIdentifier);
+  if (failure.stage != Failure::Stage::Syntax || !isWord) return {};
+  return SuggestOfLanguage(written.Substring(failure.place.begin, failure.place.GetLength()));
+}
+
 }  // namespace
 
 void AppendDiagnostic(std::string& out, const Evaluation& evaluation, const TW::UniString& written,
@@ -32,7 +42,7 @@ void AppendDiagnostic(std::string& out, const Evaluation& evaluation, const TW::
     return Host::AppendExcerpt(out, Indentation, written, {});
   }
   const Failure& failure = *evaluation.failure;
-  out += MakeText(CommandText::Error, failure.message) + "\n";
+  out += MakeText(CommandText::Error, failure.message) + SuggestFor(failure, written) + "\n";
   if (failure.source != nullptr) return AppendRendered(out, evaluation, *failure.source, names, environment);
   if (failure.stage == Failure::Stage::Evaluation) return Host::AppendExcerpt(out, Indentation, written, {});
   Host::AppendExcerpt(out, Indentation, written, {failure.place, {failure.place}});

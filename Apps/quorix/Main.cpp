@@ -1,5 +1,6 @@
 #include "CommandEntry.hpp"
 #include "CommandText.hpp"
+#include "Suggestion.hpp"
 
 #include <csignal>
 #include <cstring>
@@ -26,7 +27,9 @@ const CommandEntry& FindCommand(std::string_view name) {
   for (const CommandEntry* command : GetCommands()) {
     if (command->GetName() == name) return *command;
   }
-  throw UsageError(MakeText(CommandText::NoCommand, name));
+  std::vector<std::string_view> names;
+  for (const CommandEntry* command : GetCommands()) names.push_back(command->GetName());
+  throw UsageError(MakeText(CommandText::NoCommand, name) + Suggest(name, names));
 }
 
 Status Dispatch(const Call& call) {

@@ -1,6 +1,7 @@
 #include "ModelInput.hpp"
 
 #include "CommandText.hpp"
+#include "Suggestion.hpp"
 
 #include <utility>
 
@@ -110,7 +111,13 @@ TW::Optional<Host::PropertyIndex> ModelInput::FindProperty(std::string_view name
   if (id.ConvertFromString(text) == TW::NoErr) {
     if (const Host::PropertyIndex* property = catalog.FindById(id)) return *property;
   }
-  diagnostics_.Error(MakeText(found.empty() ? CommandText::NoProperty : CommandText::SeveralProperties, name));
+  if (!found.empty()) {
+    diagnostics_.Error(MakeText(CommandText::SeveralProperties, name));
+  } else {
+    std::vector<TW::UniString> names;
+    for (Host::PropertyIndex i = 0; i < catalog.GetCount(); ++i) names.push_back(catalog.Get(i).name);
+    diagnostics_.Error(MakeText(CommandText::NoProperty, name) + Suggest(text, names));
+  }
   return std::nullopt;
 }
 

@@ -1,6 +1,7 @@
 #include "OptionTable.hpp"
 
 #include "CommandText.hpp"
+#include "Suggestion.hpp"
 
 #include <algorithm>
 #include <array>
@@ -52,9 +53,16 @@ const OptionTable::Option& OptionTable::Find(std::string_view name) const {
   const auto found =
       std::find_if(options_.begin(), options_.end(), [name](const Option& option) { return option.name == name; });
   if (found == options_.end()) {
-    throw UsageError(MakeText(CommandText::NoOption, std::string(Prefix) + std::string(name)));
+    throw UsageError(MakeText(CommandText::NoOption, std::string(Prefix) + std::string(name)) + SuggestOption(name));
   }
   return *found;
+}
+
+std::string OptionTable::SuggestOption(std::string_view name) const {
+  std::vector<TW::UniString> names;
+  for (const Option& option : options_)
+    names.push_back(TW::UniString::FromUtf8(std::string(Prefix) + std::string(option.name)));
+  return Suggest(TW::UniString::FromUtf8(std::string(Prefix) + std::string(name)), names);
 }
 
 std::vector<std::string_view> OptionTable::Take(std::span<const std::string_view> arguments) {

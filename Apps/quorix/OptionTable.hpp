@@ -54,6 +54,7 @@ class OptionTable {
   };
 
   const Option& Find(std::string_view name) const;
+  std::string SuggestOption(std::string_view name) const;
   /// Gives how many of the arguments it took.
   std::size_t TakeOption(std::span<const std::string_view> arguments) const;
 

@@ -3,6 +3,7 @@
 #include "CommandText.hpp"
 #include "Quorix/ExpressionReferenceFormatUtils.hpp"
 #include "Resources/Language.hpp"
+#include "Suggestion.hpp"
 #include "UndefinedValue.hpp"
 #include "VocabularyPrinter.hpp"
 
@@ -29,6 +30,8 @@ std::string_view TakeWord(std::string_view& text) {
   return word;
 }
 
+TW::UniString AddColon(std::string_view name) { return TW::UniString::FromUtf8(Colon + std::string(name)); }
+
 }  // namespace
 
 struct Repl::CommandRow {
@@ -53,6 +56,12 @@ const Repl::CommandRow Repl::Commands[] = {
 
 Repl::Repl(CommonOptions& common, OptionTable& table, const Call& call)
     : common_(common), table_(table), call_(call), session_(common, call), sheet_(session_.GetEnvironment()) {}
+
+std::vector<TW::UniString> Repl::GetCommandNames() {
+  std::vector<TW::UniString> names;
+  for (const CommandRow& command : Commands) names.push_back(AddColon(command.name));
+  return names;
+}
 
 const Repl::CommandRow* Repl::FindCommand(std::string_view name) {
   const auto found = std::ranges::find(Commands, name, &CommandRow::name);
@@ -90,7 +99,9 @@ void Repl::NoteOutcome(const Session::Formula& formula) {
 
 void Repl::RunCommand(std::string_view name, std::string_view rest) {
   const CommandRow* command = FindCommand(name);
-  if (command == nullptr) throw UsageError(MakeText(CommandText::NoLineCommand, name));
+  if (command == nullptr) {
+    throw UsageError(MakeText(CommandText::NoLineCommand, name) + Suggest(AddColon(name), GetCommandNames()));
+  }
   (this->*command->run)(rest);
 }
 
@@ -203,10 +214,7 @@ Completion Repl::Complete(const TW::UniString& beforeCursor) {
   const bool isCommand = line.starts_with(Colon);
   const std::size_t blank = line.find_first_of(Blanks);
   if (isCommand && blank == line.npos) {
-    std::vector<TW::UniString> names;
-    for (const CommandRow& command : Commands)
-      names.push_back(TW::UniString::FromUtf8(":" + std::string(command.name)));
-    return CompleteWord(beforeCursor, names);
+    return CompleteWord(beforeCursor, GetCommandNames());
   }
   if (isCommand) {
     const CommandRow* command = FindCommand(rest.substr(1, blank - 1));

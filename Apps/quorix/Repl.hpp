@@ -32,6 +32,7 @@ class Repl {
   struct CommandRow;
   static const CommandRow Commands[];
   static const CommandRow* FindCommand(std::string_view name);
+  static std::vector<TW::UniString> GetCommandNames();
 
   void RunCommand(std::string_view name, std::string_view rest);
   void SetProperty(std::string_view assignment);

@@ -5,6 +5,7 @@
 #include "Host/Json/JsonWriter.hpp"
 #include "Host/Json/ValueJson.hpp"
 #include "OptionTable.hpp"
+#include "Suggestion.hpp"
 #include "WordHelp.hpp"
 
 namespace Command {
@@ -113,14 +114,6 @@ void AppendText(std::string& out, const WordHelp& help) {
   }
 }
 
-std::string MakeComplaint(const TW::UniString& word) {
-  std::string complaint = MakeText(CommandText::NoWord, word);
-  std::vector<std::string> similar;
-  for (const TW::UniString& candidate : FindSimilarWords(word)) similar.push_back(candidate.ToUtf8());
-  if (!similar.empty()) complaint += " " + MakeText(CommandText::SimilarWords, JoinWithOr(similar));
-  return complaint;
-}
-
 }  // namespace
 
 void AppendVocabulary(std::string& out, bool json) {
@@ -138,7 +131,7 @@ void AppendVocabulary(std::string& out, bool json) {
 void AppendWordHelp(std::string& out, std::string_view word, bool json, const Environment& environment) {
   const TW::UniString name = TW::UniString::FromUtf8(word);
   const TW::Optional<WordHelp> help = FindWordHelp(name, environment);
-  if (!help) throw UsageError(MakeComplaint(name));
+  if (!help) throw UsageError(MakeText(CommandText::NoWord, name) + SuggestOfLanguage(name));
   if (json) return AppendJson(out, *help, environment);
   AppendText(out, *help);
 }

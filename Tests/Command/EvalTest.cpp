@@ -91,6 +91,11 @@ TEST(Eval, TakesPropertiesByNameAndByGuid) {
        "early. Add "
        "the value that is missing at its end.\nquorix --help shows how it is called.\n",
        2},
+      {{"eval", "2 * SUMM(1)"},
+       "",
+       "error: There is no function of this name. Check the spelling, or choose a function from the list. Did you mean "
+       "SUM?\n  2 * SUMM(1)\n      ^^^^\n",
+       1},
   });
 }
 
@@ -249,11 +254,15 @@ TEST(CommandLine, RefusesArgumentsInASentence) {
   const std::vector<std::pair<std::vector<std::string>, std::string>> rows = {
       {{}, "Which command?"},
       {{"foo"}, "There is no command 'foo'."},
+      {{"tre", "1"}, "There is no command 'tre'. Did you mean tree?"},
       {{"eval"}, "The command 'eval' needs a formula."},
       {{"tree", "1", "2"}, "The command 'tree' needs one formula."},
       {{"batch", "x"}, "The command 'batch' reads standard input and takes no formulas."},
       {{"batch", "--set", "A=1"}, "The command 'batch' takes properties from its requests, not by --set."},
       {{"eval", "--foo=1", "1"}, "There is no option '--foo'. A formula that looks like one goes after '--'."},
+      {{"eval", "--lenght-unit=mm", "1"},
+       "There is no option '--lenght-unit'. A formula that looks like one goes after '--'. Did you mean "
+       "--length-unit?"},
       {{"eval", "1", "--locale"}, "The option '--locale' needs a value."},
       {{"eval", "--json=1", "1"}, "The option '--json' takes no value."},
       {{"eval", "--locale", "x!", "1"}, "The option '--locale' must be a language such as de or de_AT."},

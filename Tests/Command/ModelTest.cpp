@@ -123,6 +123,8 @@ TEST_F(Model, SaysWhatIsWrongWithTheCall) {
       {{"model", rules, "--csv", table, "--explain", "a"}, "quorix: The option '--explain' needs two values.\n"},
       {{"model", rules, "--csv", table, "--only", "Area,,Ratio"}, "quorix: The option '--only' must look like"},
       {{"model", rules, "--csv", table, "--only", "Depth"}, "error: The rules have no property 'Depth'.\n"},
+      {{"model", rules, "--csv", table, "--only", "Heigth"},
+       "error: The rules have no property 'Heigth'. Did you mean Height?\n"},
       {{"model", rules, "--csv", table, "--explain", "z", "Area"}, "error: There is no element 'z'."},
       {{"model", rules, "--csv", table, "--set", "Area=1 m2"}, "error: The property 'Area' has a formula"},
       {{"model", rules, "--csv", table, "--set", "Width=1 m2"}, "error: The value that --set gives"},

@@ -43,6 +43,7 @@ TEST(Repl, AnswersEachLine) {
       {":quit now\n2\n", "", "", 0},
       {":foo\n1\n", "1\n", "error: There is no command ':foo'. :help lists them.\n", 1},
       {":\n", "", "error: There is no command ':'. :help lists them.\n", 1},
+      {":unit\n", "", "error: There is no command ':unit'. :help lists them. Did you mean :units?\n", 1},
   });
   ExpectRows({{"1.5\n1/0\n",
                "{\"text\": \"1.5\", \"value\": {\"kind\": \"number\", \"value\": 1.5, \"length\": 0, \"angle\": 0}, "
