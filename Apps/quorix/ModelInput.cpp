@@ -115,6 +115,7 @@ TW::Optional<Host::PropertyIndex> ModelInput::FindProperty(std::string_view name
     diagnostics_.Error(MakeText(CommandText::SeveralProperties, name));
   } else {
     std::vector<TW::UniString> names;
+    names.reserve(catalog.GetCount());
     for (Host::PropertyIndex i = 0; i < catalog.GetCount(); ++i) names.push_back(catalog.Get(i).name);
     diagnostics_.Error(MakeText(CommandText::NoProperty, name) + Suggest(text, names));
   }

@@ -20,8 +20,10 @@ bool IsOption(std::string_view argument) {
   return argument.starts_with(Prefix) && argument.size() > Prefix.size() && IsLetter(argument[Prefix.size()]);
 }
 
+std::string AddPrefix(std::string_view name) { return std::string(Prefix).append(name); }
+
 std::string GetUsage(std::string_view name, std::string_view valueNames) {
-  std::string usage = "  " + std::string(Prefix) + std::string(name);
+  std::string usage = "  " + AddPrefix(name);
   if (!valueNames.empty()) usage += " " + std::string(valueNames);
   return usage;
 }
@@ -53,16 +55,16 @@ const OptionTable::Option& OptionTable::Find(std::string_view name) const {
   const auto found =
       std::find_if(options_.begin(), options_.end(), [name](const Option& option) { return option.name == name; });
   if (found == options_.end()) {
-    throw UsageError(MakeText(CommandText::NoOption, std::string(Prefix) + std::string(name)) + SuggestOption(name));
+    throw UsageError(MakeText(CommandText::NoOption, AddPrefix(name)) + SuggestOption(name));
   }
   return *found;
 }
 
 std::string OptionTable::SuggestOption(std::string_view name) const {
   std::vector<TW::UniString> names;
-  for (const Option& option : options_)
-    names.push_back(TW::UniString::FromUtf8(std::string(Prefix) + std::string(option.name)));
-  return Suggest(TW::UniString::FromUtf8(std::string(Prefix) + std::string(name)), names);
+  names.reserve(options_.size());
+  for (const Option& option : options_) names.push_back(TW::UniString::FromUtf8(AddPrefix(option.name)));
+  return Suggest(TW::UniString::FromUtf8(AddPrefix(name)), names);
 }
 
 std::vector<std::string_view> OptionTable::Take(std::span<const std::string_view> arguments) {
@@ -90,7 +92,7 @@ std::size_t OptionTable::TakeOption(std::span<const std::string_view> arguments)
   const std::string_view joined = hasValue ? name.substr(equals + 1) : std::string_view();
   name = name.substr(0, equals);
   const Option& option = Find(name);
-  const std::string shown = std::string(Prefix) + std::string(name);
+  const std::string shown = AddPrefix(name);
   if (option.valueCount == 0 && hasValue) throw UsageError(MakeText(CommandText::NoValueWanted, shown));
   const std::size_t following = option.valueCount - (hasValue ? 1 : 0);
   if (arguments.size() <= following) {
