@@ -88,6 +88,7 @@ enum class CommandText : int {
   IntegerExpected,
   FiniteNumberExpected,
   UnknownKind,
+  WouldBeLost,  ///< %T: the file
 };
 
 inline TW::UniString ToTextArgument(const TW::UniString& text) { return text; }

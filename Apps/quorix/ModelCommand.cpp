@@ -22,13 +22,14 @@ Status Run(const Call& call) {
   const auto operands = entry.Take(call, options);
   if (!operands) return Status::Success;
   if (operands->size() != 1) throw UsageError(MakeText(CommandText::OneFileWanted, entry.GetName()));
-  model.Check();
+  const std::string rulesPath(operands->front());
+  model.Check(rulesPath);
   common.LimitMemory();
 
   ModelDiagnostics diagnostics(call, model.quiet);
   Progress progress(!model.quiet);
   ModelInput input(model, common, diagnostics);
-  if (!input.Read(std::string(operands->front()), progress)) return Status::Unusable;
+  if (!input.Read(rulesPath, progress)) return Status::Unusable;
   return ModelOutput(input, model, diagnostics, call).Give(common.IsJson());
 }
 

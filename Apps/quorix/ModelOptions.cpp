@@ -3,7 +3,9 @@
 #include "CommandText.hpp"
 
 #include <algorithm>
+#include <filesystem>
 #include <initializer_list>
+#include <system_error>
 
 namespace Command {
 namespace {
@@ -35,6 +37,11 @@ std::vector<std::string> SplitNames(const OptionValue& value) {
     throw UsageError(MakeText(CommandText::NamesExpected, value.option));
   }
   return names;
+}
+
+bool IsSameFile(const std::string& a, const std::string& b) {
+  std::error_code none;
+  return std::filesystem::equivalent(a, b, none);
 }
 
 void TakeOnce(TW::Optional<std::string>& taken, const OptionValue& value) {
@@ -71,13 +78,21 @@ void ModelOptions::AddTo(OptionTable& options) {
   options.AddFlag("quiet", "shows neither warnings, nor progress, nor the summary", [this] { quiet = true; });
 }
 
-void ModelOptions::Check() const {
+void ModelOptions::Check(const std::string& rulesPath) const {
   if (ifcPath.has_value() == csvPath.has_value()) {
     throw UsageError(MakeText(CommandText::ElementsMissing, "model"));
   }
   const auto isIfc = [](const std::string& path) { return HasEnding(path, ".ifc"); };
   if (!ifcPath && std::ranges::any_of(outputs, isIfc)) {
     throw UsageError(MakeText(CommandText::OnlyFromIfc));
+  }
+  const std::string& elementsPath = ifcPath ? *ifcPath : *csvPath;
+  const auto isInput = [&](const std::string& path) {
+    return IsSameFile(path, rulesPath) || IsSameFile(path, elementsPath);
+  };
+  for (const auto* paths : {&outputs, &graphs}) {
+    const auto found = std::ranges::find_if(*paths, isInput);
+    if (found != paths->end()) throw UsageError(MakeText(CommandText::WouldBeLost, *found));
   }
 }
 

@@ -24,8 +24,8 @@ struct ModelOptions {
 
   /// Enters the options in the table; this object must stay where it is.
   void AddTo(OptionTable& options);
-  /// Throws `UsageError` when the options together make no sense.
-  void Check() const;
+  /// Throws `UsageError` when the options together make no sense, or would write over a file that is read.
+  void Check(const std::string& rulesPath) const;
   /// Whether the table is to be shown: as asked, or else when nothing other is given.
   bool IsTableShown() const;
 };

@@ -191,6 +191,25 @@ TEST_F(Model, WritesFilesWhole) {
   EXPECT_EQ(CountFiles(), 7U);
 }
 
+TEST_F(Model, WritesOverNothingThatItReads) {
+  fs::create_symlink(table, Path("link.csv"));
+  const std::string ifc = Write("house.ifc", "ISO-10303-21;");
+  const std::pair<std::vector<std::string>, std::string> rows[] = {
+      {{"--csv", table, "--out", rules}, rules},
+      {{"--csv", table, "--out", Path("./elements.csv")}, Path("./elements.csv")},
+      {{"--csv", table, "--out", Path("link.csv")}, Path("link.csv")},
+      {{"--ifc", ifc, "--out", Path("other.ifc"), "--out", ifc}, ifc},
+  };
+  for (const auto& [arguments, path] : rows) {
+    std::vector<std::string> all{"model", rules};
+    all.insert(all.end(), arguments.begin(), arguments.end());
+    const std::string sentence = "quorix: '" + path + "' is read here and would be lost. Write to another file.\n";
+    EXPECT_EQ(RunProgram(all).err.substr(0, sentence.size()), sentence);
+  }
+  EXPECT_EQ(Read("rules.json") + Read("elements.csv") + Read("house.ifc"),
+            std::string(SmallRules) + SmallTable + "ISO-10303-21;");
+}
+
 TEST_F(Model, AnswersInJson) {
   const Outcome outcome = Run({"--json", "--where", "[Ratio] = 4", "--quiet"});
   EXPECT_EQ(outcome.out.substr(0, 1), "{");
