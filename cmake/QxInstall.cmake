@@ -7,7 +7,7 @@ set(doc "${CMAKE_INSTALL_DATADIR}/doc/quorix")
 install(TARGETS Quorix EXPORT QuorixTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library NAMELINK_COMPONENT development)
 # Beside the library, which looks for it there.
-install(FILES "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/Quorix.dat" DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library)
+install(FILES "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${QX_TEXT_FILE}" DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library)
 
 set_target_properties(QuorixHost PROPERTIES EXPORT_NAME Host)
 install(TARGETS QuorixHost EXPORT QuorixHostTargets

@@ -53,7 +53,7 @@ class Loading : public testing::Test {
     fs::create_directories(folder);
     const fs::path source(QX_TEST_LIBRARY);
     fs::copy_file(source, folder / "libQuorix.so");
-    if (withArchive) fs::copy_file(source.parent_path() / "Quorix.dat", folder / "Quorix.dat");
+    if (withArchive) fs::copy_file(source.parent_path() / QX_TEXT_FILE, folder / QX_TEXT_FILE);
     return folder / "libQuorix.so";
   }
 

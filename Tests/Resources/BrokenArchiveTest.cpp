@@ -90,7 +90,7 @@ TEST_F(BrokenArchive, ThatIsNoFileOfASensibleSize) {
   const std::string huge = folder_.GetFilePath("huge");
   WriteFile(huge, "");
   std::filesystem::resize_file(huge, Resources::MaximumArchiveLength + Resources::SealSize + 1);
-  std::filesystem::create_directory(folder_.GetFilePath("Quorix.dat"));
+  std::filesystem::create_directory(folder_.GetFilePath(QX_TEXT_FILE));
   for (const std::string& path : {std::string(), pipe, huge, folder_.GetPath(), folder_.GetFilePath("missing"),
                                   std::string("/dev/zero"), std::string(100'000, 'x'), std::string("\xFF\n", 3)}) {
     EXPECT_EQ(OpenResourceFile(path), -1) << path.substr(0, 99);

@@ -123,13 +123,13 @@ TEST(ResourceFile, FilesOfOneNameStayApart) {
 TEST(ResourceFile, OpensWhatThePathMeantAtTheTime) {
   const TemporaryFolder folder;
   const auto before = std::filesystem::current_path();
-  std::filesystem::copy_file(QX_OVERRIDE_ARCHIVE, folder.GetFilePath("Quorix.dat"));
+  std::filesystem::copy_file(QX_OVERRIDE_ARCHIVE, folder.GetFilePath(QX_TEXT_FILE));
   std::filesystem::current_path(folder.GetPath());
-  const int handle = OpenResourceFile("Quorix.dat");
+  const int handle = OpenResourceFile(QX_TEXT_FILE);
   std::filesystem::current_path(before);
   EXPECT_EQ(GetIndString(106, 13, handle, "root"), TW::UniString(u"Nothing can be divided by zero."));
   // Its texts do not depend on the file any more.
-  std::filesystem::resize_file(folder.GetFilePath("Quorix.dat"), 0);
+  std::filesystem::resize_file(folder.GetFilePath(QX_TEXT_FILE), 0);
   EXPECT_EQ(GetIndString(106, 3, handle, "de"), TW::UniString(u"Nur Gleiches ist gleich."));
   CloseResourceFile(handle);
 }

@@ -17,7 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* DefaultFileName = "Quorix.dat";
+constexpr const char* DefaultFileName = QX_TEXT_FILE;
 constexpr int NoModule = -1;
 
 // Set while the library is loaded, before objects that are made by code.

@@ -13,9 +13,10 @@
 
 namespace Resources {
 
-/// Opens the resource file at a path in the system's encoding, or `Quorix.dat` in the folder at that path. Gives a
-/// handle from 1, or -1 when there is no file that could be one. Cheap: the file is read at the first look-up, and one
-/// that turns out to be broken then stands for a file without texts.
+/// Opens the resource file at a path in the system's encoding, or that of this version of the library, such as
+/// `Quorix-0.dat`, in the folder at that path. Gives a handle from 1, or -1 when there is no file that could be one.
+/// Cheap: the file is read at the first look-up, and one that turns out to be broken then stands for a file without
+/// texts.
 RESOURCES_EXPORT int OpenResourceFile(const std::string& path);
 
 /// Gives a handle back and drops the texts that were read for it, but for those of a `StringCache`, which keeps them
