@@ -23,10 +23,8 @@ struct ModulePlace {
 ModulePlace modulePlace;
 
 template <std::size_t Size>
-bool Keep(const std::string& text, std::array<char, Size>& buffer) {
-  if (text.size() >= Size) return false;
-  std::memcpy(buffer.data(), text.c_str(), text.size() + 1);
-  return true;
+void Keep(const std::string& text, std::array<char, Size>& buffer) {
+  if (text.size() < Size) std::memcpy(buffer.data(), text.c_str(), text.size() + 1);
 }
 
 // A place that is unknown or too long stays empty.
