@@ -3,7 +3,6 @@
 #include "Quorix/ExpressionNodes/ExpressionBinaryOpNode.hpp"
 
 #include <algorithm>
-#include <new>
 
 namespace Host {
 namespace {
@@ -46,8 +45,6 @@ template <class Evaluation>
 void Attempt(NodeFacts& facts, Evaluation&& evaluate) {
   try {
     facts.value = evaluate();
-  } catch (const std::bad_alloc&) {
-    throw;  // says nothing of the formula
   } catch (...) {
     facts.failure = std::current_exception();
   }

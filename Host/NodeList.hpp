@@ -24,8 +24,7 @@ struct NodeFacts {
 };
 
 /// The nodes below and including `root`, each before its children, with the value of each. `text` is where the tree was
-/// rendered. Throws `std::bad_alloc` when memory runs out, in a node too. Takes time in proportion to their number,
-/// times how deeply they are nested beside chains of operators.
+/// rendered. Takes time in proportion to their number, times how deeply they are nested beside chains of operators.
 std::vector<NodeFacts> ListNodes(const QX::ExpressionNode& root, const QX::ExpressionString& text,
                                  const QX::IExpressionEvaluationEnv& environment);
 

@@ -24,12 +24,12 @@ void AppendHelp(std::string& out) {
 }
 
 const CommandEntry& FindCommand(std::string_view name) {
+  std::vector<TW::UniString> names;
   for (const CommandEntry* command : GetCommands()) {
     if (command->GetName() == name) return *command;
+    names.push_back(TW::UniString::FromUtf8(command->GetName()));
   }
-  std::vector<std::string_view> names;
-  for (const CommandEntry* command : GetCommands()) names.push_back(command->GetName());
-  throw UsageError(MakeText(CommandText::NoCommand, name) + Suggest(name, names));
+  throw UsageError(MakeText(CommandText::NoCommand, name) + Suggest(TW::UniString::FromUtf8(name), names));
 }
 
 Status Dispatch(const Call& call) {

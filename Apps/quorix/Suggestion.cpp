@@ -12,13 +12,6 @@ std::string Suggest(const TW::UniString& word, const std::vector<TW::UniString>&
   return similar.empty() ? std::string() : " " + MakeText(CommandText::SimilarWords, TW::UniString(similar));
 }
 
-std::string Suggest(std::string_view word, const std::vector<std::string_view>& words) {
-  std::vector<TW::UniString> texts;
-  texts.reserve(words.size());
-  for (const std::string_view one : words) texts.push_back(TW::UniString::FromUtf8(one));
-  return Suggest(TW::UniString::FromUtf8(word), texts);
-}
-
 std::string SuggestOfLanguage(const TW::UniString& word) {
   std::vector<std::string> similar;
   for (const TW::UniString& candidate : FindSimilarWords(word)) similar.push_back(candidate.ToUtf8());

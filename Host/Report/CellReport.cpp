@@ -15,6 +15,7 @@
 #include "Quorix/ExpressionSemanticExceptions.hpp"
 
 #include <algorithm>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -157,8 +158,10 @@ class Printer {
       std::rethrow_exception(facts.failure);
     } catch (const QX::ExpressionSemanticException& exception) {
       if (exception.GetSource() == facts.node) return MakeScreenText(exception.ToString(), LongestLine);
+    } catch (const std::bad_alloc&) {
+      throw;                           // Texts in tables are bounded: no formula is to blame.
     } catch (const std::exception&) {  // NOLINT(bugprone-empty-catch)
-      // What went wrong beyond the formula, as with too little memory, is told of the whole.
+      // What went wrong beyond the formula is told of the whole.
     }
     return MakeScreenText(MakeText(ReportText::Failed), LongestValue);
   }

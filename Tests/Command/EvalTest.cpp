@@ -227,6 +227,13 @@ TEST(Tree, TakesLongChainsAndDeepNesting) {
   EXPECT_NE(nested.out.find("\n" + Repeat(" ", 40) + "(250) ExpressionIntegerNode"), std::string::npos);
 }
 
+TEST(Tree, ShowsWhichPartMakesAnImpossibleText) {
+  const Outcome outcome = RunProgram({"tree", "LEN(REPT(\"abc\",2147483647)) + 1"});
+  EXPECT_NE(outcome.out.find("    ExpressionRepeatFunctionNode  1        6..32   OutOfMemory\n"), std::string::npos)
+      << outcome.out;
+  EXPECT_EQ(outcome.status, 1);
+}
+
 TEST(CommandLine, SpeaksTheLanguageThatIsAskedFor) {
   const std::pair<std::vector<std::string>, std::string> rows[] = {
       {{"eval", "--locale=de", "1/0"}, "Fehler: Der Divisor ist null."},
